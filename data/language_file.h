@@ -1,0 +1,24 @@
+#pragma once
+// Sprachen.txt in the program's folder: one message per tagged line, one TAB
+// field per language (language index i is field i + 1).
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace lettriner {
+
+// The message for `SuchStr` in language `SprachIndex`, read afresh from
+// Sprachen.txt on every call. Empty when the file is absent (it is not
+// created), empty, lacks the key or has no such language column.
+[[nodiscard]] std::u16string MeldungLaden(const std::filesystem::path& programFolder,
+                                          std::u16string_view SuchStr, std::int16_t SprachIndex);
+
+// The same lookup in an already read and collapsed text. Index -1 gives field 0
+// (what stands between key and first TAB); lower indexes give empty text.
+[[nodiscard]] std::u16string SprachenDatenHolen(std::u16string_view SuchStr,
+                                                std::u16string_view SprachenDatei,
+                                                std::int16_t Index);
+
+} // namespace lettriner

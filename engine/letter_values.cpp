@@ -1,0 +1,37 @@
+#include "engine/letter_values.h"
+
+#include "data/file_helpers.h"
+#include "data/numeric_value.h"
+#include "data/text_case.h"
+#include "data/text_codec.h"
+#include "data/text_lines.h"
+
+namespace lettriner {
+
+LetterValueTable letterValuesFromTexts(std::u16string_view letters, std::u16string_view values) {
+    LetterValueTable table;
+    const auto letterLines = splitAtCrLf(letters);
+    const auto valueLines = splitAtCrLf(values);
+    for (std::size_t i = 0; i < letterLines.size(); ++i) {
+        if (letterLines[i].empty() || i >= valueLines.size())
+            continue;
+        const unsigned char code = windows1252Code(toUpper(letterLines[i].front()));
+        table.set(code, numericValue(valueLines[i]));
+    }
+    return table;
+}
+
+LetterValueTable BewertungsFeldLaden(const std::filesystem::path& folder) {
+    const std::u16string letters = DateiLesen(folder / "Bewertung1.txt");
+    const std::u16string values = DateiLesen(folder / "Bewertung2.txt");
+    return letterValuesFromTexts(letters, values);
+}
+
+std::int16_t WortBewertung(const LetterValueTable& table, std::u16string_view Wort) {
+    double sum = 0.0;
+    for (const char16_t c : Wort)
+        sum += table[windows1252Code(toUpper(c))];
+    return roundToInt16(sum).value_or(0);
+}
+
+} // namespace lettriner

@@ -1,0 +1,17 @@
+#include "engine/number_field.h"
+
+#include "data/numeric_value.h"
+
+namespace lettriner {
+
+KeptNumberField::KeptNumberField(std::u16string text) {
+    setText(std::move(text));
+}
+
+void KeptNumberField::setText(std::u16string text) {
+    text_ = std::move(text);
+    if (const auto value = textToInt16(text_))
+        value_ = *value;
+}
+
+} // namespace lettriner

@@ -1,0 +1,95 @@
+#include "engine/result_store.h"
+
+#include "data/number_format.h"
+#include "engine/word_check.h"
+
+#include <algorithm>
+
+namespace lettriner {
+
+void ResultStore::reset() {
+    entries_.clear();
+    entries_.push_back({kStartingEntry, 0});
+}
+
+void SchlechteHälfteLöschen(ResultStore& Feld, NumberField& minimumField) {
+    std::vector<StoreEntry>& entries = Feld.entries();
+    FeldNachWertSortieren(entries);
+    const std::int64_t kept = Feld.highestIndex() / 2 + 1;
+    entries.resize(static_cast<std::size_t>(kept));
+    minimumField.setText(decimalText(entries.back().value));
+}
+
+void finishStore(ResultStore& Feld) {
+    std::vector<StoreEntry>& entries = Feld.entries();
+    FeldNachWertSortieren(entries);
+    const auto start = std::find_if(entries.begin(), entries.end(), [](const StoreEntry& entry) {
+        return entry.word == kStartingEntry;
+    });
+    if (start != entries.end())
+        entries.erase(start);
+}
+
+std::vector<std::u16string> storeWords(const ResultStore& Feld, const PreparedWords& words) {
+    std::vector<std::u16string> texts;
+    texts.reserve(Feld.entries().size());
+    for (const StoreEntry& entry : Feld.entries()) {
+        if (entry.word == kStartingEntry)
+            texts.emplace_back();
+        else
+            texts.emplace_back(words.upper(entry.word));
+    }
+    return texts;
+}
+
+std::vector<std::int64_t> WortLängenFeld(const std::vector<std::u16string>& Feld) {
+    std::vector<std::int64_t> lengths;
+    lengths.reserve(Feld.size());
+    for (const std::u16string& word : Feld)
+        lengths.push_back(static_cast<std::int64_t>(word.size()));
+    return lengths;
+}
+
+std::vector<std::int64_t> WortWertFeld(const LetterValueTable& values,
+                                       const std::vector<std::u16string>& Feld) {
+    std::vector<std::int64_t> result;
+    result.reserve(Feld.size());
+    for (const std::u16string& word : Feld)
+        result.push_back(WortBewertung(values, word));
+    return result;
+}
+
+void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::u16string>& array) {
+    if (column < 0)
+        return;
+    if (column == 0) {
+        for (const std::u16string& text : array)
+            list.addRow(text);
+        return;
+    }
+    if (list.rowCount() != static_cast<std::int64_t>(array.size()))
+        return;
+    for (std::int64_t row = 1; row <= list.rowCount(); ++row)
+        list.setSubItem(row, column, array[static_cast<std::size_t>(row - 1)]);
+}
+
+void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::int64_t>& array) {
+    std::vector<std::u16string> texts;
+    texts.reserve(array.size());
+    for (const std::int64_t number : array)
+        texts.push_back(decimalText(number));
+    ListeSpalteFüllen(list, column, texts);
+}
+
+void publishStore(const ResultStore& Feld, const PreparedWords& words, std::u16string_view rack,
+                  ResultList& list) {
+    const std::vector<std::u16string> texts = storeWords(Feld, words);
+    ListeSpalteFüllen(list, 0, texts);
+    ListeSpalteFüllen(list, 1, WortLängenFeld(texts));
+    ListeSpalteFüllen(list, 2, WortWertFeld(words.values(), texts));
+    ListeSpalteFüllen(list, 3, ZusBuchstabenFeld(texts, rack));
+    ListeSpalteFüllen(list, 4, ÜbrigeBuchstFeld(texts, rack));
+    list.publishFinished();
+}
+
+} // namespace lettriner

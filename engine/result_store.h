@@ -1,0 +1,64 @@
+#pragma once
+// The result stores of a search: the bounded main store, pruned to its better
+// half whenever it outgrows the field size, and the unbounded bonus store.
+
+#include "engine/number_field.h"
+#include "engine/prepared_words.h"
+#include "engine/result_list.h"
+#include "engine/value_sort.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lettriner {
+
+// Marks the starting entry: no word, value 0.
+inline constexpr std::uint32_t kStartingEntry = 0xFFFFFFFFu;
+
+class ResultStore {
+public:
+    ResultStore() { reset(); }
+
+    // The starting entry alone.
+    void reset();
+    void append(std::uint32_t word, std::int16_t value) { entries_.push_back({word, value}); }
+    // Number of entries less one, the starting entry included while it is there.
+    [[nodiscard]] std::int64_t highestIndex() const {
+        return static_cast<std::int64_t>(entries_.size()) - 1;
+    }
+    [[nodiscard]] std::vector<StoreEntry>& entries() { return entries_; }
+    [[nodiscard]] const std::vector<StoreEntry>& entries() const { return entries_; }
+
+private:
+    std::vector<StoreEntry> entries_;
+};
+
+// Sorts the store best first, keeps entries 0 to h div 2 and writes the value
+// of the last kept entry into the minimum-value field (whose value follows).
+void SchlechteHälfteLöschen(ResultStore& Feld, NumberField& minimumField);
+
+// Sorts best first and removes the starting entry wherever it landed.
+void finishStore(ResultStore& Feld);
+
+// The store's words (upper-cased, as tested), entry by entry.
+[[nodiscard]] std::vector<std::u16string> storeWords(const ResultStore& Feld,
+                                                     const PreparedWords& words);
+
+[[nodiscard]] std::vector<std::int64_t> WortLängenFeld(const std::vector<std::u16string>& Feld);
+[[nodiscard]] std::vector<std::int64_t> WortWertFeld(const LetterValueTable& values,
+                                                     const std::vector<std::u16string>& Feld);
+
+// Column 0 adds one row per entry; column k > 0 fills cell k of every row, but
+// only when the list has exactly as many rows as the array has entries.
+// A negative column changes nothing.
+void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::u16string>& array);
+void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::int64_t>& array);
+
+// Fills the five columns in order: word, length, value, needed letters and
+// left-over letters, the last two against `rack` (upper-cased, spaces kept).
+void publishStore(const ResultStore& Feld, const PreparedWords& words, std::u16string_view rack,
+                  ResultList& list);
+
+} // namespace lettriner

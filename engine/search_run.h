@@ -1,0 +1,94 @@
+#pragma once
+// One search over the whole word list: every word is tested, accepted words
+// go into the main store (pruned when it outgrows the field size) and, when
+// they use every rack tile, into the bonus store; both are then published
+// into their result lists, best first.
+//
+// The run knows nothing of windows. It reads the live minimum value and field
+// size through NumberField, writes rows through ResultList, and calls the
+// SearchWindow hooks to yield after every word and to show its progress.
+
+#include "engine/number_field.h"
+#include "engine/prepared_words.h"
+#include "engine/result_list.h"
+#include "engine/result_store.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace lettriner {
+
+// The raw texts of the input fields, read once when a run starts.
+struct SearchTexts {
+    std::u16string rack = u"AFEEZHRB";
+    std::u16string mandatory;
+    std::u16string forbidden = u"QÄÖÜJZVXY";
+    std::u16string allowance = u"0";
+};
+
+// Everything a run shows or asks outside itself. Every hook does nothing by
+// default, so a run without a window (command line, tests) overrides none.
+class SearchWindow {
+public:
+    virtual ~SearchWindow() = default;
+    // After every word, accepted or not: serve pending input and timers.
+    virtual void yield() {}
+    virtual void setProgressTimerEnabled(bool /*enabled*/) {}
+    // True: stop button shown in place of the search button; false: back.
+    virtual void setSearching(bool /*searching*/) {}
+    virtual void hideBonusList() {}
+    virtual void showBonusList() {}
+    virtual void drawProgress(std::int16_t /*percent*/) {}
+    virtual void setElapsedText(std::u16string /*text*/) {}
+    virtual void setFoundText(std::u16string /*text*/) {}
+    // The rack field's text now, upper-cased, for the letter columns.
+    [[nodiscard]] virtual std::u16string currentRack(std::u16string_view rackAtStart) {
+        return std::u16string(rackAtStart);
+    }
+    [[nodiscard]] virtual double secondsSinceMidnight() const;
+    [[nodiscard]] virtual char16_t decimalSeparator() const { return u'.'; }
+};
+
+struct SearchConnections {
+    NumberField& minimumValue; // txtMindestWert; pruning writes into it
+    NumberField& fieldSize;    // txtMaxUB
+    ResultList& mainList;
+    ResultList& bonusList;
+    SearchWindow& window;
+};
+
+class SearchRun {
+public:
+    explicit SearchRun(const PreparedWords& words) : words_(words) {}
+
+    // Runs a whole search and publishes it. Does nothing while a run is going.
+    void run(const SearchTexts& texts, SearchConnections& connections);
+
+    // Ends a going run before its next word; it is then finished as usual.
+    void requestStop() { stopRequested_ = true; }
+    // The progress timer's tick: progress is shown after the current word.
+    void raiseProgressFlag() { progressDue_ = true; }
+
+    [[nodiscard]] bool isRunning() const { return running_; }
+    [[nodiscard]] std::uint64_t foundCount() const { return found_; }
+    [[nodiscard]] bool bonusFound() const { return bonusFound_; }
+    [[nodiscard]] const ResultStore& bonusStore() const { return bonus_; }
+
+private:
+    void showProgress(std::int64_t index, std::int64_t lastIndex, double startTime,
+                      SearchWindow& window);
+
+    const PreparedWords& words_;
+    ResultStore bonus_; // kept between runs, like the window's other state
+    std::uint64_t found_ = 0;
+    bool stopRequested_ = false;
+    bool progressDue_ = true; // the first run shows progress after its first word
+    bool bonusFound_ = false;
+    bool running_ = false;
+};
+
+// "N Wörter gefunden".
+[[nodiscard]] std::u16string foundCountText(std::uint64_t count);
+
+} // namespace lettriner
