@@ -94,6 +94,7 @@ void SearchRun::run(const SearchTexts& texts, SearchConnections& connections) {
             showProgress(i, lastIndex, startTime, window);
     }
 
+    window.loopEnded();
     finishStore(main);
     finishStore(bonus_);
     connections.mainList.clear();

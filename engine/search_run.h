@@ -34,6 +34,8 @@ public:
     virtual ~SearchWindow() = default;
     // After every word, accepted or not: serve pending input and timers.
     virtual void yield() {}
+    // After the last word, or after a stop: a paced yield() may owe one more pass.
+    virtual void loopEnded() {}
     virtual void setProgressTimerEnabled(bool /*enabled*/) {}
     // True: stop button shown in place of the search button; false: back.
     virtual void setSearching(bool /*searching*/) {}
