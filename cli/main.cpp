@@ -67,7 +67,7 @@ int main(int argc, char** argv) {
 
     MemoryResultList mainList;
     MemoryResultList bonusList;
-    SearchWindow noWindow;
+    HeadlessWindow noWindow;
     SearchConnections connections{minimum, fieldSize, mainList, bonusList, noWindow};
     SearchRun run(words);
     run.run(texts, connections);

@@ -18,6 +18,7 @@ namespace lettriner {
 // kOtherBit, and a word with that bit is tested the long way.
 inline constexpr int kAlphabetSize = 30; // A-Z, Ä, Ö, Ü, ß
 inline constexpr std::uint32_t kOtherBit = 1u << kAlphabetSize;
+inline constexpr std::uint32_t kImpossibleBit = 1u << 31; // in no word's letter set
 
 // Position of an upper-case letter in the alphabet, or -1 for any other character.
 [[nodiscard]] constexpr int alphabetIndex(char16_t c) {

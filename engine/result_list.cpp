@@ -3,9 +3,12 @@
 namespace lettriner {
 
 void MemoryResultList::addRow(std::u16string text) {
-    Row row(kResultColumns);
-    row[0] = std::move(text);
-    rows_.push_back(std::move(row));
+    rows_.emplace_back()[0] = std::move(text);
+}
+
+void MemoryResultList::reserveRows(std::int64_t count) {
+    if (count > 0)
+        rows_.reserve(rows_.size() + static_cast<std::size_t>(count));
 }
 
 void MemoryResultList::setSubItem(std::int64_t row, int column, std::u16string text) {

@@ -3,6 +3,7 @@
 // clear. The window's table model implements it; MemoryResultList serves the
 // command line and the tests.
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -21,13 +22,15 @@ public:
     virtual void setSubItem(std::int64_t row, int column, std::u16string text) = 0;
     // ListeZeilenLöschen: the list is empty afterwards.
     virtual void clear() = 0;
+    // A hint before `count` rows are added, so storage grows once.
+    virtual void reserveRows(std::int64_t /*count*/) {}
     // Called once all columns of a publish are written, so a view can show them in one go.
     virtual void publishFinished() {}
 };
 
 class MemoryResultList final : public ResultList {
 public:
-    using Row = std::vector<std::u16string>; // kResultColumns cells
+    using Row = std::array<std::u16string, kResultColumns>;
 
     void addRow(std::u16string text) override;
     [[nodiscard]] std::int64_t rowCount() const override {
@@ -35,6 +38,7 @@ public:
     }
     void setSubItem(std::int64_t row, int column, std::u16string text) override;
     void clear() override { rows_.clear(); }
+    void reserveRows(std::int64_t count) override;
 
     [[nodiscard]] const std::vector<Row>& rows() const { return rows_; }
 

@@ -59,18 +59,19 @@ std::vector<std::int64_t> WortWertFeld(const LetterValueTable& values,
     return result;
 }
 
-void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::u16string>& array) {
+void ListeSpalteFüllen(ResultList& list, int column, std::vector<std::u16string> array) {
     if (column < 0)
         return;
     if (column == 0) {
-        for (const std::u16string& text : array)
-            list.addRow(text);
+        list.reserveRows(static_cast<std::int64_t>(array.size()));
+        for (std::u16string& text : array)
+            list.addRow(std::move(text));
         return;
     }
     if (list.rowCount() != static_cast<std::int64_t>(array.size()))
         return;
     for (std::int64_t row = 1; row <= list.rowCount(); ++row)
-        list.setSubItem(row, column, array[static_cast<std::size_t>(row - 1)]);
+        list.setSubItem(row, column, std::move(array[static_cast<std::size_t>(row - 1)]));
 }
 
 void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::int64_t>& array) {
@@ -78,7 +79,7 @@ void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::int
     texts.reserve(array.size());
     for (const std::int64_t number : array)
         texts.push_back(decimalText(number));
-    ListeSpalteFüllen(list, column, texts);
+    ListeSpalteFüllen(list, column, std::move(texts));
 }
 
 void publishStore(const ResultStore& Feld, const PreparedWords& words, std::u16string_view rack,

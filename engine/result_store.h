@@ -53,7 +53,7 @@ void finishStore(ResultStore& Feld);
 // Column 0 adds one row per entry; column k > 0 fills cell k of every row, but
 // only when the list has exactly as many rows as the array has entries.
 // A negative column changes nothing.
-void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::u16string>& array);
+void ListeSpalteFüllen(ResultList& list, int column, std::vector<std::u16string> array);
 void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::int64_t>& array);
 
 // Fills the five columns in order: word, length, value, needed letters and

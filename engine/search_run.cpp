@@ -73,23 +73,33 @@ void SearchRun::run(const SearchTexts& texts, SearchConnections& connections) {
     window.setSearching(true);
 
     const std::int64_t lastIndex = static_cast<std::int64_t>(words_.size()) - 1;
+    const std::uint32_t yieldEvery = window.yieldEvery();
+    std::uint32_t wordsSinceYield = 0;
+    // The minimum value changes only inside a yield or a pruning: read it after each.
+    std::int16_t minimum = connections.minimumValue.value();
     for (std::int64_t i = 0; i <= lastIndex; ++i) {
         if (stopRequested_)
             break;
         const auto index = static_cast<std::size_t>(i);
-        const CheckResult result = test.check(words_, index, connections.minimumValue.value());
+        const CheckResult result = test.check(words_, index, minimum);
         if (result != CheckResult::Rejected) {
             ++found_;
             const std::int16_t value = words_.entry(index).value;
             main.append(static_cast<std::uint32_t>(index), value);
-            if (main.highestIndex() > connections.fieldSize.value())
+            if (main.highestIndex() > connections.fieldSize.value()) {
                 SchlechteHälfteLöschen(main, connections.minimumValue);
+                minimum = connections.minimumValue.value();
+            }
             if (result == CheckResult::AcceptedAsBonus) {
                 bonus_.append(static_cast<std::uint32_t>(index), value);
                 bonusFound_ = true;
             }
         }
-        window.yield();
+        if (yieldEvery != 0 && ++wordsSinceYield >= yieldEvery) {
+            wordsSinceYield = 0;
+            window.yield();
+            minimum = connections.minimumValue.value();
+        }
         if (progressDue_)
             showProgress(i, lastIndex, startTime, window);
     }

@@ -34,6 +34,11 @@ public:
     virtual ~SearchWindow() = default;
     // After every word, accepted or not: serve pending input and timers.
     virtual void yield() {}
+    // How many words pass between two calls of yield(), read once per run;
+    // 0 means never. A window whose yield() would do nothing for most words
+    // says so here and saves a call per word; nothing can change between two
+    // yields, so the run reads the minimum value only after yields and prunings.
+    [[nodiscard]] virtual std::uint32_t yieldEvery() const { return 1; }
     // After the last word, or after a stop: a paced yield() may owe one more pass.
     virtual void loopEnded() {}
     virtual void setProgressTimerEnabled(bool /*enabled*/) {}
@@ -50,6 +55,12 @@ public:
     }
     [[nodiscard]] virtual double secondsSinceMidnight() const;
     [[nodiscard]] virtual char16_t decimalSeparator() const { return u'.'; }
+};
+
+// A run without a window: the command line, benchmarks, tests.
+class HeadlessWindow final : public SearchWindow {
+public:
+    [[nodiscard]] std::uint32_t yieldEvery() const override { return 0; }
 };
 
 struct SearchConnections {

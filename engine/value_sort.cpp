@@ -38,8 +38,13 @@ public:
     void set(std::size_t position, Key key) {
         std::size_t n = leaves_ + position;
         nodes_[n] = key;
-        for (n /= 2; n > 0; n /= 2)
-            nodes_[n] = std::max(nodes_[2 * n], nodes_[2 * n + 1]);
+        for (n /= 2; n > 0; n /= 2) {
+            const Key top = std::max(nodes_[2 * n], nodes_[2 * n + 1]);
+            // Ancestors depend only on this node: nothing above changes either.
+            if (nodes_[n] == top)
+                break;
+            nodes_[n] = top;
+        }
     }
 
 private:

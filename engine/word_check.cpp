@@ -14,10 +14,12 @@ struct Covering {
     std::u16string needed;   // word letters no tile covered, in word order
 };
 
-// Covers the word's letters with the leftmost matching rack tiles.
+// Covers the word's letters, upper-cased, with the leftmost matching rack tiles.
 Covering cover(std::u16string_view word, std::u16string_view rack) {
     Covering result{std::u16string(rack), {}};
-    for (const char16_t letter : word) {
+    result.needed.reserve(word.size());
+    for (const char16_t c : word) {
+        const char16_t letter = toUpper(c);
         const std::size_t tile = result.rackLeft.find(letter);
         if (tile != std::u16string::npos)
             result.rackLeft.erase(tile, 1);
@@ -25,6 +27,12 @@ Covering cover(std::u16string_view word, std::u16string_view rack) {
             result.needed += letter;
     }
     return result;
+}
+
+std::u16string lowerCased(std::u16string text) {
+    for (char16_t& c : text)
+        c = toLower(c);
+    return text;
 }
 
 } // namespace
@@ -66,11 +74,11 @@ CheckResult WortPrüfen(const LetterValueTable& values, std::u16string_view word
 }
 
 std::u16string neededLetters(std::u16string_view word, std::u16string_view rack) {
-    return toLower(cover(toUpper(word), rack).needed);
+    return lowerCased(cover(word, rack).needed);
 }
 
 std::u16string leftOverLetters(std::u16string_view word, std::u16string_view rack) {
-    return toLower(cover(toUpper(word), rack).rackLeft);
+    return lowerCased(cover(word, rack).rackLeft);
 }
 
 std::vector<std::u16string> ZusBuchstabenFeld(const std::vector<std::u16string>& Feld,

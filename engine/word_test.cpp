@@ -1,14 +1,27 @@
 #include "engine/word_test.h"
 
-#include <bit>
+#include <algorithm>
+#include <cmath>
 
 namespace lettriner {
+namespace {
+
+// The largest whole number not above `bound`, clamped to [floor, UINT32_MAX].
+std::uint32_t wholeBound(double bound, std::uint32_t floorValue) {
+    if (!(bound >= static_cast<double>(floorValue)))
+        return floorValue;
+    if (bound >= 4294967295.0)
+        return 0xFFFFFFFFu;
+    return static_cast<std::uint32_t>(std::floor(bound));
+}
+
+} // namespace
 
 WordTest::WordTest(std::u16string_view rack, std::u16string_view mandatory,
                    std::u16string_view forbidden, double allowance)
     : rack_(rack), mandatory_(mandatory), forbidden_(forbidden), allowance_(allowance),
-      lengthBound_(static_cast<double>(rack.size()) + allowance),
-      rackLength_(static_cast<std::uint32_t>(rack.size())) {
+      maxLength_(wholeBound(static_cast<double>(rack.size()) + allowance, 2)),
+      maxExtra_(wholeBound(allowance, 0)), rackLength_(static_cast<std::uint32_t>(rack.size())) {
     for (const char16_t c : rack_) {
         const int index = alphabetIndex(c);
         if (index >= 0) {
@@ -16,45 +29,30 @@ WordTest::WordTest(std::u16string_view rack, std::u16string_view mandatory,
             rackLetters_ |= 1u << index;
         }
     }
-    const std::uint32_t mandatorySet = letterSet(mandatory_);
-    mandatoryLetters_ = mandatorySet & ~kOtherBit;
-    mandatoryHasOther_ = (mandatorySet & kOtherBit) != 0;
+    mandatoryLetters_ = letterSet(mandatory_);
+    // A mandatory character outside the alphabet rejects every alphabet-only
+    // word: ask for a bit no letter set ever has.
+    if (mandatoryLetters_ & kOtherBit)
+        mandatoryLetters_ = kImpossibleBit;
     forbiddenLetters_ = letterSet(forbidden_) & ~kOtherBit;
 }
 
-CheckResult WordTest::check(const PreparedWords& words, std::size_t index,
-                            std::int16_t minimum) const {
-    const PreparedWords::Entry& entry = words.entry(index);
-    if (entry.letters & kOtherBit) {
-        return WortPrüfen(words.values(), words.upper(index), rack_, mandatory_, forbidden_,
-                          allowance_, minimum);
-    }
-    // The word consists of alphabet letters only, so a mandatory character
-    // outside the alphabet can never be present and a forbidden one never is.
-    if (!(entry.length <= 2 || static_cast<double>(entry.length) <= lengthBound_))
-        return CheckResult::Rejected;
-    if (mandatoryHasOther_ || (entry.letters & mandatoryLetters_) != mandatoryLetters_)
-        return CheckResult::Rejected;
-    if (entry.letters & forbiddenLetters_)
-        return CheckResult::Rejected;
-    if (entry.value < minimum)
-        return CheckResult::Rejected;
+CheckResult WordTest::checkTheLongWay(const PreparedWords& words, std::size_t index,
+                                      std::int16_t minimum) const {
+    return WortPrüfen(words.values(), words.upper(index), rack_, mandatory_, forbidden_, allowance_,
+                      minimum);
+}
 
-    // Each letter missing from the rack needs at least one extra letter.
-    const int missing = std::popcount(entry.letters & ~rackLetters_);
-    if (missing > 0 && static_cast<double>(missing) > allowance_)
-        return CheckResult::Rejected;
-
+CheckResult WordTest::cover(std::u16string_view upperWord, std::uint32_t length) const {
     std::array<std::int32_t, kAlphabetSize> tiles = rackCounts_;
     std::uint32_t extra = 0;
-    for (const char16_t c : words.upper(index)) {
+    for (const char16_t c : upperWord) {
         if (--tiles[static_cast<std::size_t>(alphabetIndex(c))] < 0)
             ++extra;
     }
-    if (extra > 0 && static_cast<double>(extra) > allowance_)
+    if (extra > maxExtra_)
         return CheckResult::Rejected;
-    return entry.length - extra == rackLength_ ? CheckResult::AcceptedAsBonus
-                                               : CheckResult::Accepted;
+    return length - extra == rackLength_ ? CheckResult::AcceptedAsBonus : CheckResult::Accepted;
 }
 
 } // namespace lettriner

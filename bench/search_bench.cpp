@@ -1,0 +1,143 @@
+// Search speed on the bundled word list, and the result sort against the
+// literal quadratic one. Run from anywhere: the data comes from the run folder.
+
+#include "data/file_helpers.h"
+#include "data/word_database.h"
+#include "engine/letter_values.h"
+#include "engine/prepared_words.h"
+#include "engine/search_run.h"
+#include "engine/value_sort.h"
+#include "support/literal_selection_sort.h"
+
+#include <benchmark/benchmark.h>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace lettriner;
+
+const std::filesystem::path kRunFolder = LETTRINER_RUN_DIR;
+
+struct BundledList {
+    WordDatabase database = DatenbankEinlesen(kRunFolder / "DB1.txt");
+    PreparedWords words{database, BewertungsFeldLaden(kRunFolder)};
+};
+
+const BundledList& bundledList() {
+    static const BundledList list;
+    return list;
+}
+
+void BM_ScanBytes(benchmark::State& state) {
+    std::ifstream in(kRunFolder / "DB1.txt", std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    for (auto _ : state) {
+        unsigned sum = 0;
+        for (const char byte : bytes)
+            sum += static_cast<unsigned char>(byte);
+        benchmark::DoNotOptimize(sum);
+    }
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * bytes.size()));
+}
+BENCHMARK(BM_ScanBytes)->Unit(benchmark::kMillisecond);
+
+struct SearchCase {
+    SearchTexts texts;
+    std::u16string minimum = u"5";
+    std::u16string fieldSize = u"500";
+};
+
+void runSearch(benchmark::State& state, const SearchCase& searchCase) {
+    const PreparedWords& words = bundledList().words;
+    SearchRun run(words);
+    HeadlessWindow noWindow;
+    for (auto _ : state) {
+        KeptNumberField minimum(searchCase.minimum);
+        KeptNumberField fieldSize(searchCase.fieldSize);
+        MemoryResultList mainList;
+        MemoryResultList bonusList;
+        SearchConnections connections{minimum, fieldSize, mainList, bonusList, noWindow};
+        run.run(searchCase.texts, connections);
+        benchmark::DoNotOptimize(mainList.rowCount());
+    }
+    state.counters["found"] = static_cast<double>(run.foundCount());
+    state.counters["bonus"] = static_cast<double>(run.bonusStore().entries().size());
+}
+
+void BM_Search_default(benchmark::State& state) {
+    runSearch(state, {});
+}
+BENCHMARK(BM_Search_default)->Name("BM_Search/default")->Unit(benchmark::kMillisecond);
+
+void BM_Search_allowance3(benchmark::State& state) {
+    SearchCase searchCase;
+    searchCase.texts.allowance = u"3";
+    runSearch(state, searchCase);
+}
+BENCHMARK(BM_Search_allowance3)->Name("BM_Search/allowance3")->Unit(benchmark::kMillisecond);
+
+void BM_Search_bonusHeavy(benchmark::State& state) {
+    SearchCase searchCase;
+    searchCase.texts = {u"", u"", u"", u"40"};
+    searchCase.minimum = u"0";
+    searchCase.fieldSize = u"32767";
+    runSearch(state, searchCase);
+}
+BENCHMARK(BM_Search_bonusHeavy)->Name("BM_Search/bonusHeavy")->Unit(benchmark::kMillisecond);
+
+// Values in a narrow range, so that most of them tie.
+std::vector<StoreEntry> randomStore(std::size_t size) {
+    std::mt19937 random(42);
+    std::uniform_int_distribution<int> value(0, 40);
+    std::vector<StoreEntry> entries(size);
+    for (std::size_t i = 0; i < size; ++i)
+        entries[i] = {static_cast<std::uint32_t>(i), static_cast<std::int16_t>(value(random))};
+    return entries;
+}
+
+void BM_FeldNachWertSortieren(benchmark::State& state) {
+    const std::vector<StoreEntry> original = randomStore(static_cast<std::size_t>(state.range(0)));
+    for (auto _ : state) {
+        std::vector<StoreEntry> entries = original;
+        FeldNachWertSortieren(entries);
+        benchmark::DoNotOptimize(entries.data());
+    }
+}
+BENCHMARK(BM_FeldNachWertSortieren)->Arg(300000)->Unit(benchmark::kMillisecond);
+
+void BM_SelectionSortLiteral(benchmark::State& state) {
+    const std::vector<StoreEntry> original = randomStore(static_cast<std::size_t>(state.range(0)));
+    for (auto _ : state) {
+        std::vector<StoreEntry> entries = original;
+        testing::literalSelectionSort(entries);
+        benchmark::DoNotOptimize(entries.data());
+    }
+}
+BENCHMARK(BM_SelectionSortLiteral)->Arg(5000)->Unit(benchmark::kMillisecond);
+
+// Start-up work: reading the list and preparing it with the letter values.
+void BM_LoadWordList(benchmark::State& state) {
+    for (auto _ : state) {
+        WordDatabase database = DatenbankEinlesen(kRunFolder / "DB1.txt");
+        benchmark::DoNotOptimize(database.size());
+    }
+}
+BENCHMARK(BM_LoadWordList)->Unit(benchmark::kMillisecond);
+
+void BM_PrepareWords(benchmark::State& state) {
+    const WordDatabase& database = bundledList().database;
+    for (auto _ : state) {
+        PreparedWords words(database, BewertungsFeldLaden(kRunFolder));
+        benchmark::DoNotOptimize(words.size());
+    }
+}
+BENCHMARK(BM_PrepareWords)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+BENCHMARK_MAIN();
