@@ -155,9 +155,14 @@ double numericValue(std::u16string_view text) {
 }
 
 std::optional<std::int16_t> roundToInt16(double value) {
-    if (!std::isfinite(value))
+    // Also false for NaN and infinities.
+    if (!(value > -65536.0 && value < 65536.0))
         return std::nullopt;
-    const double rounded = std::nearbyint(value);
+    // Adding and removing 1.5 * 2^52 leaves no bits below the units, so the
+    // FPU's default rounding (to nearest, halves to even) does the work; this
+    // runs once per word at start-up, where nearbyint's library call shows.
+    constexpr double kShift = 6755399441055744.0;
+    const double rounded = (value + kShift) - kShift;
     if (rounded < -32768.0 || rounded > 32767.0)
         return std::nullopt;
     return static_cast<std::int16_t>(rounded);

@@ -10,9 +10,14 @@ WordDatabase::WordDatabase(std::u16string text) : text_(std::move(text)) {
     if (text_.empty())
         return;
     starts_.push_back(0);
-    for (std::size_t hit = text_.find(kCrLf); hit != std::u16string::npos;
-         hit = text_.find(kCrLf, hit + 2))
-        starts_.push_back(hit + 2);
+    // A plain scan: the generic find() of a 16-bit string looks at one character at a time anyway.
+    const std::size_t end = text_.size() - 1;
+    for (std::size_t i = 0; i < end; ++i) {
+        if (text_[i] == u'\r' && text_[i + 1] == u'\n') {
+            starts_.push_back(i + 2);
+            ++i;
+        }
+    }
     starts_.push_back(text_.size() + 2);
 }
 
