@@ -14,3 +14,11 @@ if(LETTRINER_SANITIZERS)
                         -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${LETTRINER_SANITIZERS})
 endif()
+
+if(LETTRINER_BUILD_FUZZERS)
+    if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        message(FATAL_ERROR "The fuzz targets need clang: configure with the preset 'fuzz'")
+    endif()
+    # Coverage instrumentation for everything the fuzz targets link.
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
