@@ -17,7 +17,8 @@ std::int16_t SettingsLaden(const std::filesystem::path& programFolder) {
         SettingsSpeichern(programFolder, Sprache);
         return Sprache;
     }
-    if (text->empty())
+    // A file of nothing but TABs and line ends counts as empty and is left alone.
+    if (text->find_first_not_of(u"\t\r\n") == std::u16string::npos)
         return Sprache;
     const std::u16string value = SchlüsselWertHolen(u"[Language]", *text);
     if (value.empty()) {

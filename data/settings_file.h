@@ -10,8 +10,9 @@ namespace lettriner {
 [[nodiscard]] std::filesystem::path settingsPath(const std::filesystem::path& programFolder);
 
 // Returns the language index, 0 by default. An absent file, or one without a
-// value for "[Language]", is written anew with 0; an empty file, a value that
-// is not a number or one outside 16 bits gives 0 and leaves the file as it is.
+// value for "[Language]", is written anew with 0; an empty file (or one of
+// only TABs and line ends), a value that is not a number or one outside 16 bits
+// gives 0 and leaves the file as it is.
 // A write that fails (read-only folder) is ignored.
 [[nodiscard]] std::int16_t SettingsLaden(const std::filesystem::path& programFolder);
 

@@ -129,17 +129,6 @@ TEST(HostileInput, FoldersInPlaceOfFiles) {
     EXPECT_TRUE(std::filesystem::is_directory(folder / "DB1.txt"));
 }
 
-TEST(HostileInput, SettingsThatCannotBeWrittenAreIgnored) {
-    TempFolder folder;
-    // A folder named like the file: the write fails, as in a read-only program folder.
-    std::filesystem::create_directory(folder / "Settings.txt");
-    EXPECT_EQ(SettingsLaden(folder.path()), 0);
-    EXPECT_TRUE(std::filesystem::is_directory(folder / "Settings.txt"));
-
-    EXPECT_EQ(SettingsLaden(folder / "no such folder"), 0);
-    EXPECT_FALSE(std::filesystem::exists(folder / "no such folder"));
-}
-
 TEST(HostileInput, MegabyteSettingsAndMessageFiles) {
     TempFolder folder;
     std::string big(1 << 20, '\t');

@@ -1,16 +1,14 @@
 #pragma once
-// Lets GoogleTest print 16-bit strings readably in failure messages.
+// Lets GoogleTest print 16-bit string views readably in failure messages.
+// GoogleTest prints std::u16string itself (as u"..." with escapes); a second
+// PrintTo for it here would make every such comparison ambiguous.
 
 #include "data/utf8.h"
 
 #include <ostream>
-#include <string>
 #include <string_view>
 
 namespace std {
-inline void PrintTo(const u16string& text, ostream* out) {
-    *out << '"' << lettriner::toUtf8(text) << '"';
-}
 inline void PrintTo(u16string_view text, ostream* out) {
     *out << '"' << lettriner::toUtf8(text) << '"';
 }
