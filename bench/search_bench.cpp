@@ -3,9 +3,9 @@
 
 #include "data/file_helpers.h"
 #include "data/word_database.h"
+#include "engine/headless_search.h"
 #include "engine/letter_values.h"
 #include "engine/prepared_words.h"
-#include "engine/search_run.h"
 #include "engine/value_sort.h"
 #include "support/literal_selection_sort.h"
 
@@ -46,27 +46,15 @@ void BM_ScanBytes(benchmark::State& state) {
 }
 BENCHMARK(BM_ScanBytes)->Unit(benchmark::kMillisecond);
 
-struct SearchCase {
-    SearchTexts texts;
-    std::u16string minimum = u"5";
-    std::u16string fieldSize = u"500";
-};
-
-void runSearch(benchmark::State& state, const SearchCase& searchCase) {
+void runSearch(benchmark::State& state, const HeadlessFields& fields) {
     const PreparedWords& words = bundledList().words;
-    SearchRun run(words);
-    HeadlessWindow noWindow;
+    HeadlessOutcome outcome;
     for (auto _ : state) {
-        KeptNumberField minimum(searchCase.minimum);
-        KeptNumberField fieldSize(searchCase.fieldSize);
-        MemoryResultList mainList;
-        MemoryResultList bonusList;
-        SearchConnections connections{minimum, fieldSize, mainList, bonusList, noWindow};
-        run.run(searchCase.texts, connections);
-        benchmark::DoNotOptimize(mainList.rowCount());
+        outcome = searchWithoutWindow(words, fields);
+        benchmark::DoNotOptimize(outcome.mainList.rowCount());
     }
-    state.counters["found"] = static_cast<double>(run.foundCount());
-    state.counters["bonus"] = static_cast<double>(run.bonusStore().entries().size());
+    state.counters["found"] = static_cast<double>(outcome.found);
+    state.counters["bonus"] = static_cast<double>(outcome.bonusList.rowCount());
 }
 
 void BM_Search_default(benchmark::State& state) {
@@ -75,18 +63,14 @@ void BM_Search_default(benchmark::State& state) {
 BENCHMARK(BM_Search_default)->Name("BM_Search/default")->Unit(benchmark::kMillisecond);
 
 void BM_Search_allowance3(benchmark::State& state) {
-    SearchCase searchCase;
-    searchCase.texts.allowance = u"3";
-    runSearch(state, searchCase);
+    HeadlessFields fields;
+    fields.texts.allowance = u"3";
+    runSearch(state, fields);
 }
 BENCHMARK(BM_Search_allowance3)->Name("BM_Search/allowance3")->Unit(benchmark::kMillisecond);
 
 void BM_Search_bonusHeavy(benchmark::State& state) {
-    SearchCase searchCase;
-    searchCase.texts = {u"", u"", u"", u"40"};
-    searchCase.minimum = u"0";
-    searchCase.fieldSize = u"32767";
-    runSearch(state, searchCase);
+    runSearch(state, {{u"", u"", u"", u"40"}, u"0", u"32767"});
 }
 BENCHMARK(BM_Search_bonusHeavy)->Name("BM_Search/bonusHeavy")->Unit(benchmark::kMillisecond);
 

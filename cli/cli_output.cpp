@@ -90,7 +90,7 @@ void appendTable(std::string& out, const MemoryResultList& list) {
 
 } // namespace
 
-std::string tsvText(const SearchOutcome& outcome) {
+std::string tsvText(const HeadlessOutcome& outcome) {
     std::string out;
     appendTsvRows(out, "main", outcome.mainList);
     appendTsvRows(out, "bonus", outcome.bonusList);
@@ -99,7 +99,7 @@ std::string tsvText(const SearchOutcome& outcome) {
     return out;
 }
 
-std::string tableText(const SearchOutcome& outcome) {
+std::string tableText(const HeadlessOutcome& outcome) {
     std::string out;
     appendTable(out, outcome.mainList);
     if (outcome.bonusShown) {

@@ -5,9 +5,9 @@
 #include "data/text_case.h"
 #include "data/utf8.h"
 #include "data/word_database.h"
+#include "engine/headless_search.h"
 #include "engine/letter_values.h"
 #include "engine/prepared_words.h"
-#include "engine/search_run.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -52,28 +52,14 @@ int main(int argc, char** argv) {
     const WordDatabase database = DatenbankEinlesen("DB1.txt");
     const PreparedWords words(database, BewertungsFeldLaden());
 
-    // The fields start with their design texts; an option then sets the text at once.
-    const SearchTexts defaults;
-    KeptNumberField minimum(u"5");
-    KeptNumberField fieldSize(u"500");
-    if (options.minimum)
-        minimum.setText(fromUtf8(*options.minimum));
-    if (options.fieldSize)
-        fieldSize.setText(fromUtf8(*options.fieldSize));
-    const SearchTexts texts{toUpper(fieldText(options.rack, defaults.rack)),
-                            toUpper(fieldText(options.mandatory, defaults.mandatory)),
-                            toUpper(fieldText(options.forbidden, defaults.forbidden)),
-                            fieldText(options.extra, defaults.allowance)};
-
-    MemoryResultList mainList;
-    MemoryResultList bonusList;
-    HeadlessWindow noWindow;
-    SearchConnections connections{minimum, fieldSize, mainList, bonusList, noWindow};
-    SearchRun run(words);
-    run.run(texts, connections);
-
-    const cli::SearchOutcome outcome{mainList, bonusList, run.bonusFound(), run.foundCount(),
-                                     minimum.text()};
+    HeadlessFields fields;
+    fields.texts = {toUpper(fieldText(options.rack, SearchDefaults::rack)),
+                    toUpper(fieldText(options.mandatory, SearchDefaults::mandatory)),
+                    toUpper(fieldText(options.forbidden, SearchDefaults::forbidden)),
+                    fieldText(options.extra, SearchDefaults::allowance)};
+    fields.minimum = fieldText(options.minimum, SearchDefaults::minimum);
+    fields.fieldSize = fieldText(options.fieldSize, SearchDefaults::fieldSize);
+    const HeadlessOutcome outcome = searchWithoutWindow(words, fields);
     const std::string text = options.tsv ? cli::tsvText(outcome) : cli::tableText(outcome);
     std::fwrite(text.data(), 1, text.size(), stdout);
     return std::fflush(stdout) == 0 ? 0 : 1;

@@ -19,12 +19,22 @@
 
 namespace lettriner {
 
+// The texts the input fields show when the program starts.
+struct SearchDefaults {
+    static constexpr std::u16string_view rack = u"AFEEZHRB";
+    static constexpr std::u16string_view mandatory = u"";
+    static constexpr std::u16string_view forbidden = u"QÄÖÜJZVXY";
+    static constexpr std::u16string_view allowance = u"0";
+    static constexpr std::u16string_view minimum = u"5";
+    static constexpr std::u16string_view fieldSize = u"500";
+};
+
 // The raw texts of the input fields, read once when a run starts.
 struct SearchTexts {
-    std::u16string rack = u"AFEEZHRB";
-    std::u16string mandatory;
-    std::u16string forbidden = u"QÄÖÜJZVXY";
-    std::u16string allowance = u"0";
+    std::u16string rack{SearchDefaults::rack};
+    std::u16string mandatory{SearchDefaults::mandatory};
+    std::u16string forbidden{SearchDefaults::forbidden};
+    std::u16string allowance{SearchDefaults::allowance};
 };
 
 // Everything a run shows or asks outside itself. Every hook does nothing by

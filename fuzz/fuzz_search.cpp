@@ -8,9 +8,9 @@
 #include "data/numeric_value.h"
 #include "data/text_case.h"
 #include "data/word_database.h"
+#include "engine/headless_search.h"
 #include "engine/letter_values.h"
 #include "engine/prepared_words.h"
-#include "engine/search_run.h"
 #include "engine/word_test.h"
 #include "fuzz_input.h"
 #include "support/literal_selection_sort.h"
@@ -65,23 +65,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (store != expected)
         fuzz::fail("the fast sort differs from the literal selection sort");
 
-    KeptNumberField minimum(u"5");
-    minimum.setText(texts[7]);
-    KeptNumberField fieldSize(u"500");
+    const HeadlessOutcome outcome = searchWithoutWindow(words, {search, texts[7], texts[8]});
+    KeptNumberField fieldSize{std::u16string(SearchDefaults::fieldSize)};
     fieldSize.setText(texts[8]);
     const std::int16_t fieldSizeValue = fieldSize.value();
-    MemoryResultList mainList;
-    MemoryResultList bonusList;
-    HeadlessWindow window;
-    SearchConnections connections{minimum, fieldSize, mainList, bonusList, window};
-    SearchRun run(words);
-    run.run(search, connections);
+    const MemoryResultList& mainList = outcome.mainList;
+    const MemoryResultList& bonusList = outcome.bonusList;
 
     const auto rows = static_cast<std::int64_t>(mainList.rows().size());
     if (rows > std::max<std::int64_t>(fieldSizeValue, 0) + 1)
         fuzz::fail("the main list holds more than the field size plus one");
-    if (static_cast<std::uint64_t>(rows) > run.foundCount() ||
-        bonusList.rows().size() > run.foundCount())
+    if (static_cast<std::uint64_t>(rows) > outcome.found || bonusList.rows().size() > outcome.found)
         fuzz::fail("a list holds more words than were found");
     checkSortedBestFirst(mainList);
     checkSortedBestFirst(bonusList);

@@ -7,9 +7,9 @@
 #include "data/settings_file.h"
 #include "data/text_codec.h"
 #include "data/word_database.h"
+#include "engine/headless_search.h"
 #include "engine/letter_values.h"
 #include "engine/prepared_words.h"
-#include "engine/search_run.h"
 #include "support/temp_folder.h"
 #include "support/u16_printing.h"
 
@@ -35,17 +35,9 @@ struct SearchResult {
 SearchResult searchHere(const SearchTexts& texts, std::u16string minimumText = u"5") {
     const WordDatabase database = DatenbankEinlesen("DB1.txt");
     const PreparedWords words(database, BewertungsFeldLaden());
-    KeptNumberField minimum(u"5");
-    minimum.setText(std::move(minimumText));
-    KeptNumberField fieldSize(u"500");
-    MemoryResultList mainList;
-    MemoryResultList bonusList;
-    HeadlessWindow window;
-    SearchConnections connections{minimum, fieldSize, mainList, bonusList, window};
-    SearchRun run(words);
-    run.run(texts, connections);
-    return {database.size(), run.foundCount(), mainList.rows().size(), bonusList.rows().size(),
-            minimum.text()};
+    const HeadlessOutcome outcome = searchWithoutWindow(words, {texts, std::move(minimumText)});
+    return {database.size(), outcome.found, outcome.mainList.rows().size(),
+            outcome.bonusList.rows().size(), outcome.minimumText};
 }
 
 void writeLetterValues(const TempFolder& folder) {
