@@ -1,0 +1,28 @@
+#pragma once
+// Lets GoogleTest print letter-test results by name and store entries by their parts.
+
+#include "engine/value_sort.h"
+#include "engine/word_check.h"
+
+#include <ostream>
+
+namespace lettriner {
+inline void PrintTo(CheckResult result, std::ostream* out) {
+    switch (result) {
+    case CheckResult::Rejected:
+        *out << "Rejected";
+        return;
+    case CheckResult::Accepted:
+        *out << "Accepted";
+        return;
+    case CheckResult::AcceptedAsBonus:
+        *out << "AcceptedAsBonus";
+        return;
+    }
+    *out << "CheckResult(" << static_cast<int>(result) << ')';
+}
+
+inline void PrintTo(const StoreEntry& entry, std::ostream* out) {
+    *out << "{word " << entry.word << ", value " << entry.value << '}';
+}
+} // namespace lettriner
