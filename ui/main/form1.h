@@ -1,0 +1,160 @@
+#pragma once
+// The main window: the input frame on the left, the result lists on the
+// right, the banner above both, and the green cover that hides the frames
+// while the word list loads. It owns the search and drives it through the
+// SearchWindow hooks: the run yields to the event loop, paced so that a pass
+// happens every few milliseconds rather than after every word.
+
+#include "engine/prepared_words.h"
+#include "engine/search_run.h"
+#include "ui/main/input_fields.h"
+#include "ui/main/paced_yield.h"
+#include "ui/main/twips.h"
+
+#include <QWidget>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+class QFrame;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QTableView;
+class QTimer;
+
+namespace lettriner {
+class frmAbout;
+}
+
+namespace lettriner::ui {
+
+class Banner;
+class LoadingCover;
+class ProgressBox;
+class ResultTableModel;
+
+class Form1 final : public QWidget {
+    Q_OBJECT
+
+public:
+    // `programFolder` holds Settings.txt; the word list and the letter values
+    // are read by bare name from the current folder.
+    explicit Form1(std::filesystem::path programFolder, QWidget* parent = nullptr);
+    ~Form1() override;
+
+    // Start-up, once: lays out the window, covers it, shows it, reads the
+    // data files (serving events while it does) and marks loading finished.
+    // Every missing file is tolerated; it always gets to the end.
+    void Form_Load();
+
+    [[nodiscard]] std::int16_t MindestWert() const { return minimumValue_.value(); }
+    [[nodiscard]] std::int16_t MaxUB() const { return fieldSize_.value(); }
+    [[nodiscard]] std::int32_t SortRichtung() const { return sortRichtung_; }
+    [[nodiscard]] std::int16_t ListenAbstand() const { return listenAbstand_; }
+    [[nodiscard]] bool LadenFertig() const { return ladenFertig_; }
+    [[nodiscard]] std::int16_t LadeTakte() const { return ladeTakte_; }
+    [[nodiscard]] std::int16_t Sprache() const { return sprache_; }
+    [[nodiscard]] bool isSearching() const { return run_.isRunning(); }
+    [[nodiscard]] std::size_t wordCount() const { return words_.size(); }
+
+    [[nodiscard]] ResultTableModel& mainList() const { return *model1_; }
+    [[nodiscard]] ResultTableModel& bonusList() const { return *model2_; }
+    // Null until first opened.
+    [[nodiscard]] lettriner::frmAbout* aboutBox() const { return frmAbout_; }
+
+    // False: a full pass over the event loop after every word, the slow way a
+    // benchmark compares against. True (the default): paced passes.
+    void setPacedYield(bool paced) { paced_ = paced; }
+
+    // What a close request does; the default ends the process at once.
+    void setExitHandler(std::function<void()> exitNow) { exitNow_ = std::move(exitNow); }
+
+    // The outer height start-up gives the window, in twips.
+    [[nodiscard]] static int outerHeightTwips();
+
+public slots:
+    void cmdSuchen_Click();
+    void cmdStop_Click();
+    void Timer1_Timer();
+    void Timer2_Timer();
+    void CheckerVerstecken();
+    void CheckerAnschalten();
+    // F1, "?" and the banner: the about box, created on first use, then shown again.
+    void openAboutBox();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    class Search;
+    friend class Search;
+
+    void buildInputFrame();
+    void buildResultFrame();
+    void buildBanner();
+    void setTabOrder();
+    void ListViewAussehen(QTableView& liste);
+    void ListViewSpalten(QTableView& liste);
+    void AbständeFestlegen();
+    void ListView1_ColumnClick(int column);
+    void placeLists();
+    void fitOuterHeight();
+    [[nodiscard]] QSize nonClientSize() const;
+    [[nodiscard]] QSize outerSizeTwips() const;
+    // Key preview: Enter, Esc and F1 for the whole window, before the focused control.
+    bool previewKey(QKeyEvent& key);
+    void yieldToEvents();
+
+    std::filesystem::path programFolder_;
+
+    Banner* Picture1_ = nullptr;
+    QPushButton* cmdInfo_ = nullptr;
+    LoadingCover* Frame3_ = nullptr;
+    QFrame* Frame1_ = nullptr;
+    QFrame* Frame2_ = nullptr;
+    LetterField* txtBuchstaben_ = nullptr;
+    QLineEdit* txtConst_ = nullptr;
+    LetterField* txtPflichtbuchstaben_ = nullptr;
+    QLineEdit* txtMindestWert_ = nullptr;
+    LetterField* txtVerboteneBuchstaben_ = nullptr;
+    QLineEdit* txtMaxUB_ = nullptr;
+    QLabel* lblDBCount_ = nullptr;
+    QPushButton* cmdSuchen_ = nullptr;
+    QPushButton* cmdStop_ = nullptr;
+    QTableView* ListView1_ = nullptr;
+    QTableView* ListView2_ = nullptr;
+    ResultTableModel* model1_ = nullptr;
+    ResultTableModel* model2_ = nullptr;
+    ProgressBox* picProgress_ = nullptr;
+    QLineEdit* txtSuchZeit_ = nullptr;
+    QLabel* lblInfos_ = nullptr;
+    QTimer* Timer1_ = nullptr;
+    QTimer* Timer2_ = nullptr;
+    lettriner::frmAbout* frmAbout_ = nullptr;
+
+    LineEditNumberField minimumValue_;
+    LineEditNumberField fieldSize_;
+
+    // Where the result lists lie in Frame2, in twips; the bonus list moves them.
+    TwipsRect list1_;
+    TwipsRect list2_;
+
+    bool ladenFertig_ = false;
+    std::int16_t ladeTakte_ = 0;
+    std::int16_t listenAbstand_ = 0;
+    std::int32_t sortRichtung_ = 0;
+    std::int16_t sprache_ = 0;
+
+    lettriner::PreparedWords words_;
+    lettriner::SearchRun run_{words_};
+    std::unique_ptr<Search> search_;
+    PacedYield pacer_;
+    bool paced_ = true;
+    std::function<void()> exitNow_;
+};
+
+} // namespace lettriner::ui

@@ -1,0 +1,13 @@
+// Lettriner: the rack helper's window.
+
+#include "ui/main/form1.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Lettriner"));
+    lettriner::ui::Form1 form(QCoreApplication::applicationDirPath().toStdU16String());
+    form.Form_Load();
+    return QApplication::exec();
+}

@@ -1,0 +1,35 @@
+#include "ui/main/svg_pictures.h"
+
+#include <QPainter>
+#include <QSvgRenderer>
+
+// The resource file is compiled into a static library: its registration has
+// to be pulled in by name.
+static void initPictures() {
+    Q_INIT_RESOURCE(lettriner);
+}
+
+namespace lettriner::ui {
+
+QPixmap svgPixmap(const QString& resourcePath, QSize size, qreal pixelRatio) {
+    static const bool registered = (initPictures(), true);
+    Q_UNUSED(registered);
+    QPixmap pixmap((QSizeF(size) * pixelRatio).toSize().expandedTo({1, 1}));
+    pixmap.setDevicePixelRatio(pixelRatio);
+    pixmap.fill(Qt::transparent);
+    QSvgRenderer renderer(resourcePath);
+    if (renderer.isValid()) {
+        QPainter painter(&pixmap);
+        renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
+    }
+    return pixmap;
+}
+
+QIcon programIcon() {
+    QIcon icon;
+    for (const int side : {16, 24, 32, 48, 64, 128, 256})
+        icon.addPixmap(svgPixmap(QStringLiteral(":/pictures/icon.svg"), {side, side}, 1.0));
+    return icon;
+}
+
+} // namespace lettriner::ui
