@@ -13,6 +13,7 @@
 #include "support/temp_folder.h"
 #include "support/u16_printing.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
@@ -119,6 +120,53 @@ TEST(HostileInput, FoldersInPlaceOfFiles) {
     const SearchResult result = searchHere({}, u"0");
     EXPECT_EQ(result.found, 0u);
     EXPECT_TRUE(std::filesystem::is_directory(folder / "DB1.txt"));
+}
+
+// A file that stat() calls regular but whose reads fail, for root as for
+// anyone: permission bits alone do not stop root, which CI may run as.
+constexpr const char* kFailingRegularFile = "/proc/self/mem";
+
+// Makes `path` unreadable: permission bits, and where they do not hold
+// (running as root) a link to a file whose reads fail.
+void makeUnreadable(const std::filesystem::path& path) {
+    std::filesystem::permissions(path, std::filesystem::perms::none);
+    if (std::ifstream probe(path, std::ios::binary); probe && probe.peek() != EOF) {
+        std::filesystem::remove(path);
+        std::filesystem::create_symlink(kFailingRegularFile, path);
+    }
+}
+
+TEST(HostileInput, UnreadableFilesReadAsEmpty) {
+    TempFolder folder;
+    folder.write("DB1.txt", "AB\r\nBA\r\n");
+    writeLetterValues(folder);
+    for (const char* name : {"DB1.txt", "Bewertung1.txt", "Bewertung2.txt"})
+        makeUnreadable(folder / name);
+    const CurrentFolder here(folder.path());
+
+    EXPECT_EQ(DateiLesen("DB1.txt"), u"");
+    const SearchResult result = searchHere({}, u"0");
+    EXPECT_EQ(result.entries, 0u);
+    EXPECT_EQ(result.found, 0u);
+}
+
+TEST(HostileInput, ReadOnlyProgramFolderKeepsTheDefaults) {
+    TempFolder folder;
+    std::filesystem::path programFolder = folder / "program";
+    std::filesystem::create_directory(programFolder);
+    std::filesystem::permissions(programFolder, std::filesystem::perms::owner_read |
+                                                    std::filesystem::perms::owner_exec);
+    if (std::ofstream(programFolder / "probe")) {
+        // Root writes anyway; /proc takes no new files from anyone.
+        std::filesystem::remove(programFolder / "probe");
+        programFolder = "/proc/self";
+    }
+
+    EXPECT_EQ(SettingsLaden(programFolder), 0);
+    SettingsSpeichern(programFolder, 1);
+    EXPECT_FALSE(std::filesystem::exists(settingsPath(programFolder)));
+    EXPECT_EQ(SettingsLaden(programFolder), 0);
+    EXPECT_EQ(MeldungLaden(programFolder, u"[A]", 1), u"");
 }
 
 TEST(HostileInput, MegabyteSettingsAndMessageFiles) {

@@ -14,6 +14,7 @@
 #include <QTest>
 #include <QTimer>
 #include <cstring>
+#include <filesystem>
 
 using lettriner::testing::LoadedWindow;
 using lettriner::ui::Form1;
@@ -34,6 +35,12 @@ int runChild(const char* moment, const char* folder) {
         return 3;
     }
     form.Form_Load();
+    if (std::strcmp(moment, "cover") == 0) {
+        // Loaded, the cover still up for its eight ticks.
+        QTimer::singleShot(0, &form, &QWidget::close);
+        QCoreApplication::exec();
+        return 3;
+    }
     form.findChild<QLineEdit*>(QStringLiteral("txtBuchstaben"))->setText(QStringLiteral("RAHMEN"));
     if (std::strcmp(moment, "search") == 0) {
         form.setPacedYield(false);
@@ -197,6 +204,7 @@ void StartupTest::closeEndsTheProgram_data() {
     QTest::addColumn<int>("exitCode");
 
     QTest::newRow("close while loading") << "loading" << 0;
+    QTest::newRow("close under the cover") << "cover" << 0;
     QTest::newRow("close during a search") << "search" << 0;
     QTest::newRow("no close: the search publishes") << "none" << 3;
 }
@@ -216,6 +224,12 @@ void StartupTest::closeEndsTheProgram() {
     QVERIFY(child.waitForFinished(30000));
     QCOMPARE(child.exitStatus(), QProcess::NormalExit);
     QCOMPARE(child.exitCode(), exitCode);
+    // Ending early writes nothing but the settings file.
+    QStringList written;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.path()))
+        written.append(QString::fromStdString(entry.path().filename().string()));
+    written.sort();
+    QCOMPARE(written, (QStringList{"Bewertung1.txt", "Bewertung2.txt", "DB1.txt", "Settings.txt"}));
 }
 
 int main(int argc, char** argv) {
