@@ -1,15 +1,20 @@
 #!/usr/bin/env bash
-# Installs the Debian packages the build and the tests need, when missing.
-# Sourced by run.sh and test.sh; safe to run on its own.
+# Installs the Debian packages the build needs, when missing.
+#   scripts/setup.sh           what building and running the program needs
+#   scripts/setup.sh --tests   also what the tests, sanitizers and fuzzers need
 set -euo pipefail
 
 packages=(
     cmake g++ make
-    qt6-base-dev qt6-svg-dev
+    qt6-base-dev qt6-svg-dev qt6-qpa-plugins
     libgtest-dev libgmock-dev libbenchmark-dev
     wngerman
-    xvfb xauth fonts-dejavu-core
+    fonts-dejavu-core
 )
+if [ "${1:-}" = "--tests" ]; then
+    # clang and its runtime for the libFuzzer targets; Xvfb for screenshots.
+    packages+=(clang libclang-rt-14-dev xvfb xauth)
+fi
 
 missing=()
 for package in "${packages[@]}"; do

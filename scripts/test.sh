@@ -1,9 +1,24 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds with warnings as errors and runs every test.
+# Installs what is missing, then builds and runs every test three ways:
+#   1. the debug build with warnings as errors (GoogleTest and QtTest suites),
+#   2. the same suites under AddressSanitizer and UndefinedBehaviorSanitizer,
+#   3. each libFuzzer target for a short bounded time.
+# LETTRINER_FUZZ_SECONDS sets the time per fuzz target (default 20).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-bash scripts/setup.sh
+bash scripts/setup.sh --tests
+export QT_QPA_PLATFORM=offscreen
+
+echo "== debug build, every test"
 cmake --preset dev
 cmake --build --preset dev -j "$(nproc)"
-QT_QPA_PLATFORM=offscreen ctest --preset dev -j "$(nproc)"
+ctest --preset dev -j "$(nproc)"
+
+echo "== sanitizer build, every test"
+cmake --preset asan
+cmake --build --preset asan -j "$(nproc)"
+ctest --preset asan -j "$(nproc)"
+
+echo "== fuzz targets"
+bash fuzz/run_fuzzers.sh "${LETTRINER_FUZZ_SECONDS:-20}"
