@@ -2,6 +2,7 @@
 // small data files written in Windows-1252 with CR LF line ends.
 
 #include "cli/cli_options.h"
+#include "support/case_names.h"
 #include "support/temp_folder.h"
 
 #include <cstdlib>
@@ -14,14 +15,7 @@
 namespace lettriner::cli {
 namespace {
 
-// Failure messages name the table row instead of dumping its bytes.
-template <typename Case>
-requires requires(const Case& c) {
-    c.name;
-}
-void PrintTo(const Case& c, std::ostream* out) {
-    *out << c.name;
-}
+using testing::PrintTo; // table rows by name
 
 struct ParseCase {
     const char* name;

@@ -6,6 +6,7 @@
 #include "engine/prepared_words.h"
 #include "engine/result_list.h"
 #include "engine/result_store.h"
+#include "support/case_names.h"
 #include "support/engine_printing.h"
 #include "support/u16_printing.h"
 
@@ -17,14 +18,7 @@
 namespace lettriner {
 namespace {
 
-// Failure messages name the table row instead of dumping its bytes.
-template <typename Case>
-requires requires(const Case& c) {
-    c.name;
-}
-void PrintTo(const Case& c, std::ostream* out) {
-    *out << c.name;
-}
+using testing::PrintTo; // table rows by name
 
 constexpr std::uint32_t kStart = kStartingEntry;
 

@@ -7,6 +7,7 @@
 #include "engine/prepared_words.h"
 #include "engine/result_list.h"
 #include "engine/search_run.h"
+#include "support/case_names.h"
 #include "support/u16_printing.h"
 
 #include <functional>
@@ -18,14 +19,7 @@
 namespace lettriner {
 namespace {
 
-// Failure messages name the table row instead of dumping its bytes.
-template <typename Case>
-requires requires(const Case& c) {
-    c.name;
-}
-void PrintTo(const Case& c, std::ostream* out) {
-    *out << c.name;
-}
+using testing::PrintTo; // table rows by name
 
 using Rows = std::vector<MemoryResultList::Row>;
 using Events = std::vector<std::u16string>;

@@ -2,6 +2,7 @@
 // sort, ties included, since pruning keeps whatever lands in the better half.
 
 #include "engine/value_sort.h"
+#include "support/case_names.h"
 #include "support/engine_printing.h"
 #include "support/literal_selection_sort.h"
 
@@ -13,14 +14,7 @@
 namespace lettriner {
 namespace {
 
-// Failure messages name the table row instead of dumping its bytes.
-template <typename Case>
-requires requires(const Case& c) {
-    c.name;
-}
-void PrintTo(const Case& c, std::ostream* out) {
-    *out << c.name;
-}
+using testing::PrintTo; // table rows by name
 
 // Word numbers record where each entry started, so any difference in the
 // order of equal values shows.

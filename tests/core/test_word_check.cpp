@@ -2,6 +2,7 @@
 
 #include "data/text_codec.h"
 #include "engine/word_check.h"
+#include "support/case_names.h"
 #include "support/engine_printing.h"
 #include "support/u16_printing.h"
 
@@ -14,14 +15,7 @@
 namespace lettriner {
 namespace {
 
-// Failure messages name the table row instead of dumping its bytes.
-template <typename Case>
-requires requires(const Case& c) {
-    c.name;
-}
-void PrintTo(const Case& c, std::ostream* out) {
-    *out << c.name;
-}
+using testing::PrintTo; // table rows by name
 
 constexpr std::u16string_view kDefaultRack = u"AFEEZHRB";
 

@@ -9,6 +9,7 @@
 #include "engine/prepared_words.h"
 #include "engine/word_check.h"
 #include "engine/word_test.h"
+#include "support/case_names.h"
 #include "support/engine_printing.h"
 #include "support/u16_printing.h"
 
@@ -25,14 +26,7 @@
 namespace lettriner {
 namespace {
 
-// Failure messages name the table row instead of dumping its bytes.
-template <typename Case>
-requires requires(const Case& c) {
-    c.name;
-}
-void PrintTo(const Case& c, std::ostream* out) {
-    *out << c.name;
-}
+using testing::PrintTo; // table rows by name
 
 // Mostly letters of a typical rack, so that many words are accepted; then
 // rarer and lower-case letters; then characters outside the alphabet, among
