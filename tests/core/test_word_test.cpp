@@ -170,6 +170,48 @@ TEST(WordTest, DecidesLikeTheLiteralTestOnRandomInput) {
     }
 }
 
+// Prepared values must equal WortBewertung whatever the table holds: whole
+// values are summed as integers, anything else as doubles in word order.
+struct ValueTableCase {
+    const char* name;
+    double common;       // A E H R N S, and every character outside the alphabet
+    double rare;         // Q X Y
+    std::size_t longest; // words up to this many characters
+};
+
+class PreparedValues : public ::testing::TestWithParam<ValueTableCase> {};
+
+TEST_P(PreparedValues, EqualWortBewertung) {
+    const ValueTableCase& c = GetParam();
+    LetterValueTable values;
+    for (unsigned code = 0; code < 256; ++code)
+        values.set(static_cast<unsigned char>(code), c.common);
+    for (const char16_t letter : u"QXY")
+        values.set(windows1252Code(letter), c.rare);
+    RandomTexts random(7);
+    std::vector<std::u16string> list;
+    for (int n = 0; n < 300; ++n) {
+        std::u16string word = random.text(random.below(c.longest + 1));
+        list.push_back(word);
+    }
+    const PreparedWords words(WordDatabase(joinedLines(list)), values);
+    for (std::size_t i = 0; i < list.size(); ++i)
+        ASSERT_EQ(words.entry(i).value, WortBewertung(values, list[i])) << toUtf8(list[i]);
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Tables, PreparedValues, ::testing::Values(
+    ValueTableCase{"GameValues",           1,        10,          12},
+    ValueTableCase{"NegativeWhole",        -3,       7,           40},
+    ValueTableCase{"LargestWholeSummedAsIntegers", 1048576, -1048576, 5000},
+    ValueTableCase{"JustAboveTheWholeBound", 1048577, 3,          5000},
+    ValueTableCase{"HalvesRoundToEven",    0.5,      2.5,         12},
+    ValueTableCase{"TinyFractions",        1e-9,     1,           12},
+    ValueTableCase{"HugeSumsOverflow",     1e308,    -1e308,      12},
+    ValueTableCase{"Infinite",             std::numeric_limits<double>::infinity(), 1, 12}),
+    [](const auto& row) { return std::string(row.param.name); });
+// clang-format on
+
 struct TestCase {
     const char* name;
     std::u16string_view word; // as in the word list
