@@ -1,0 +1,266 @@
+// The letter test: the literal WortPrüfen case by case, the prepared fast
+// test against it (the same table, then random lists), prepared values
+// against WortBewertung, and the two letter columns.
+
+#include "data/text_case.h"
+#include "data/text_codec.h"
+#include "data/utf8.h"
+#include "data/word_database.h"
+#include "engine/prepared_words.h"
+#include "engine/word_check.h"
+#include "engine/word_test.h"
+#include "support/engine_printing.h"
+
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace lettriner {
+namespace {
+
+constexpr std::u16string_view kRack = u"AFEEZHRB";
+constexpr CheckResult kNo = CheckResult::Rejected;
+constexpr CheckResult kYes = CheckResult::Accepted;
+constexpr CheckResult kBonus = CheckResult::AcceptedAsBonus;
+const double kNaN = std::nan("");
+
+// Every letter is worth 1, except S (-2), Q (10) and Y (20000, so YY overflows).
+LetterValueTable oneEach() {
+    LetterValueTable table;
+    for (const char16_t c : std::u16string_view(u"ABCDEFGHIJKLMNOPRTUVWXZÄÖÜß?1"))
+        table.set(windows1252Code(c), 1.0);
+    table.set(windows1252Code(u'S'), -2.0);
+    table.set(windows1252Code(u'Q'), 10.0);
+    table.set(windows1252Code(u'Y'), 20000.0);
+    return table;
+}
+
+std::u16string joinedLines(const std::vector<std::u16string>& words) {
+    std::u16string text;
+    for (std::size_t i = 0; i < words.size(); ++i)
+        text += (i > 0 ? u"\r\n" : u"") + words[i];
+    return text;
+}
+
+TEST(LetterTest, LiteralAndFastTestGiveTheExpectedResult) {
+    struct Case {
+        const char* name;
+        std::u16string_view word, rack, mandatory, forbidden;
+        double allowance;
+        std::int16_t minimum;
+        CheckResult expected;
+    };
+    // clang-format off
+    const Case cases[] = {
+        // name                                   word       rack     mand.  forb.  allow.  min  expected
+        {"FEE uses rack tiles",                   u"FEE",      kRack,  u"",   u"",    0,     0,  kYes},
+        {"three E need one extra letter",         u"EEE",      kRack,  u"",   u"",    0,     0,  kNo},
+        {"three E with allowance 1",              u"EEE",      kRack,  u"",   u"",    1,     0,  kYes},
+        {"whole rack used is a bonus",            u"BREZHAFE", kRack,  u"",   u"",    0,     0,  kBonus},
+        {"mandatory letter from the board",       u"FEET",     kRack,  u"T",  u"",    1,     0,  kYes},
+        {"mandatory letter not covered",          u"FEET",     kRack,  u"T",  u"",    0,     0,  kNo},
+        {"mandatory letter missing",              u"FEE",      kRack,  u"EA", u"",    0,     0,  kNo},
+        {"mandatory twice, once is enough",       u"FEH",      kRack,  u"HH", u"",    0,     0,  kYes},
+        {"mandatory and forbidden",               u"FEE",      kRack,  u"E",  u"E",   0,     0,  kNo},
+        {"forbidden present",                     u"FEZ",      kRack,  u"",   u"QZ",  0,     0,  kNo},
+        {"forbidden absent",                      u"FEH",      kRack,  u"",   u"QZ",  0,     0,  kYes},
+        {"empty rack: accepted is bonus",         u"ABC",      u"",    u"",   u"",    3,     0,  kBonus},
+        {"empty rack: longer than allowance",     u"ABC",      u"",    u"",   u"",    2,     0,  kNo},
+        {"empty rack: short word needs extras",   u"A",        u"",    u"",   u"",    0,     0,  kNo},
+        {"rack space: all letters used, no bonus", u"fee",     u"FEE ", u"",  u"",    0,     0,  kYes},
+        {"rack space: word with space uses it",   u"FE E",     u"FEE ", u"",  u"",    0,     0,  kBonus},
+        {"empty word, minimum 0",                 u"",         kRack,  u"",   u"QZ",  0,     0,  kYes},
+        {"empty word, minimum 1",                 u"",         kRack,  u"",   u"",    0,     1,  kNo},
+        {"empty word, a mandatory letter",        u"",         kRack,  u"A",  u"",    0,     0,  kNo},
+        {"empty word, empty rack",                u"",         u"",    u"",   u"",    0,     0,  kBonus},
+        {"allowance 1.5: one extra",              u"FEET",     u"FEE", u"",   u"",    1.5,   0,  kBonus},
+        {"allowance 1.5: two extras",             u"FEETT",    u"FEE", u"",   u"",    1.5,   0,  kNo},
+        {"allowance 1.999: two extras",           u"FEETT",    u"FEE", u"",   u"",    1.999, 0,  kNo},
+        {"allowance 2.001: two extras",           u"FEETT",    u"FEE", u"",   u"",    2.001, 0,  kBonus},
+        {"allowance 0.5: one extra",              u"FEET",     u"FEE", u"",   u"",    0.5,   0,  kNo},
+        {"length bound: one over the rack",       u"ABCD",     u"ABC", u"",   u"",    0,     0,  kNo},
+        {"length bound: allowance covers it",     u"ABCD",     u"ABC", u"",   u"",    1,     0,  kBonus},
+        {"negative allowance: length bound",      u"FEE",      u"FEE", u"",   u"",   -1,     0,  kNo},
+        {"negative allowance: two letters pass",  u"fe",       u"FE",  u"",   u"",   -5,     0,  kBonus},
+        {"negative allowance: no extra letter",   u"FT",       u"FEE", u"",   u"",   -1,     0,  kNo},
+        {"allowance not a number: two letters",   u"FE",       u"FE",  u"",   u"",    kNaN,  0,  kBonus},
+        {"allowance not a number: one extra",     u"FT",       u"FE",  u"",   u"",    kNaN,  0,  kNo},
+        {"huge allowance, long word",             u"QQQQQQQQQQQQQQQQQQQQ", u"", u"", u"", 1e300, 0, kBonus},
+        {"value below the minimum",               u"FEE",      kRack,  u"",   u"",    0,     4,  kNo},
+        {"value equals the minimum",              u"FEE",      kRack,  u"",   u"",    0,     3,  kYes},
+        {"negative value equals the minimum",     u"SS",       u"SS",  u"",   u"",    0,    -4,  kBonus},
+        {"negative value below the minimum",      u"SS",       u"SS",  u"",   u"",    0,    -3,  kNo},
+        {"value counts board letters",            u"QA",       u"AB",  u"",   u"",    1,    11,  kYes},
+        {"value out of range counts 0",           u"YY",       u"YY",  u"",   u"",    0,     1,  kNo},
+        {"two tiles needed for HH",               u"HH",       kRack,  u"",   u"",    0,     0,  kNo},
+        {"rack longer than the word",             u"AB",       u"ABC", u"",   u"",    0,     0,  kYes},
+        {"ß is not SS",                           u"ß",        u"SS",  u"",   u"",    0,    -5,  kNo},
+        {"mandatory ß, word with SS",             u"SS",       u"SS",  u"ß",  u"",    0,    -5,  kNo},
+        {"lower-case umlauts and ß",              u"äöüß",     u"ÄÖÜß", u"Ö", u"",    0,     0,  kBonus},
+        {"Ä is not A",                            u"Ä",        u"A",   u"",   u"",    0,     0,  kNo},
+        {"? is no wildcard",                      u"AB",       u"A?",  u"",   u"",    0,     0,  kNo},
+        {"? matches itself",                      u"A?",       u"A?",  u"",   u"",    0,     0,  kBonus},
+        {"mandatory digit, alphabet word",        u"FEE",      u"FEE", u"1",  u"",    0,     0,  kNo},
+        {"mandatory digit present",               u"A1",       u"A1",  u"1",  u"",    0,     0,  kBonus},
+        {"forbidden ?, alphabet word",            u"FEE",      u"FEE", u"",   u"?",   0,     0,  kBonus},
+    };
+    // clang-format on
+    const LetterValueTable values = oneEach();
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const std::u16string upper = toUpper(c.word);
+        EXPECT_EQ(
+            WortPrüfen(values, upper, c.rack, c.mandatory, c.forbidden, c.allowance, c.minimum),
+            c.expected);
+        const PreparedWords words(WordDatabase(upper + u"\r\n"), values);
+        const WordTest test(c.rack, c.mandatory, c.forbidden, c.allowance);
+        EXPECT_EQ(test.check(words, 0, c.minimum), c.expected);
+    }
+}
+
+// Mostly rack letters, so that many words are accepted; then rarer and
+// lower-case letters; then characters outside the alphabet, one of them
+// without a Windows-1252 code (U+4E00 counts as "?").
+class RandomTexts {
+public:
+    explicit RandomTexts(std::uint32_t seed) : engine_(seed) {}
+    std::size_t below(std::size_t bound) { return engine_() % bound; }
+    std::u16string text(std::size_t length) {
+        static constexpr std::u16string_view kinds[] = {u"AEFHRBZEENSTI", u"QXYJÄÖÜßaeäöüßz",
+                                                        u" 1?é\t\n€-\u0153\u4E00"};
+        std::u16string result;
+        for (std::size_t i = 0; i < length; ++i) {
+            const std::size_t kind = below(10);
+            const std::u16string_view from = kinds[kind < 6 ? 0 : kind < 8 ? 1 : 2];
+            result += from[below(from.size())];
+        }
+        return result;
+    }
+    // Often a shuffled part of the rack with a few more characters.
+    std::u16string word(std::u16string_view rack) {
+        if (below(2) == 0)
+            return text(below(20) == 0 ? 15 + below(26) : below(9));
+        std::u16string result =
+            std::u16string(rack.substr(0, below(rack.size() + 1))) + text(below(3));
+        std::shuffle(result.begin(), result.end(), engine_);
+        return below(3) == 0 ? toLower(result) : result;
+    }
+
+private:
+    std::mt19937 engine_;
+};
+
+TEST(LetterTest, FastTestDecidesLikeTheLiteralOneOnRandomInput) {
+    const double inf = std::numeric_limits<double>::infinity();
+    const double allowances[] = {0, 1, 2, 1.5, 0.5, -1, -0.5, 3, 2.999, 1e6, 40, inf, -inf, kNaN};
+    const std::int16_t minimums[] = {-32768, -10, -1, 0, 0, 1, 3, 5, 8, 12, 32767};
+    LetterValueTable values = oneEach();
+    for (const auto& [letter, value] :
+         {std::pair{u'N', 0.5}, {u'T', 1.5}, {u' ', 0.5}, {u'?', -3.0}})
+        values.set(windows1252Code(letter), value);
+    RandomTexts random(20261122);
+    int outcomes[3] = {};
+    for (int round = 0; round < 400; ++round) {
+        const std::u16string rack = toUpper(random.text(random.below(10)));
+        std::u16string mandatory = random.below(3) == 0 ? toUpper(random.text(1)) : u"";
+        std::u16string forbidden = random.below(2) == 0 ? toUpper(random.text(2)) : u"";
+        std::erase(mandatory, u' ');
+        std::erase(forbidden, u' ');
+        const double allowance = allowances[random.below(std::size(allowances))];
+        const WordTest test(rack, mandatory, forbidden, allowance);
+        std::vector<std::u16string> list;
+        for (int n = 0; n < 50; ++n)
+            list.push_back(random.word(rack));
+        const PreparedWords words(WordDatabase(joinedLines(list)), values);
+        ASSERT_EQ(words.size(), list.size());
+        for (std::size_t i = 0; i < words.size(); ++i) {
+            const std::u16string upper = toUpper(list[i]);
+            ASSERT_EQ(std::u16string(words.upper(i)), upper);
+            const std::int16_t minimum = minimums[random.below(std::size(minimums))];
+            const CheckResult literal =
+                WortPrüfen(values, upper, rack, mandatory, forbidden, allowance, minimum);
+            ASSERT_EQ(test.check(words, i, minimum), literal)
+                << "word \"" << toUtf8(list[i]) << "\", rack \"" << toUtf8(rack)
+                << "\", mandatory \"" << toUtf8(mandatory) << "\", forbidden \""
+                << toUtf8(forbidden) << "\", allowance " << allowance << ", minimum " << minimum;
+            ++outcomes[static_cast<int>(literal)];
+        }
+    }
+    // The comparison means something only if every outcome occurred often.
+    EXPECT_GT(outcomes[0], 1000);
+    EXPECT_GT(outcomes[1], 1000);
+    EXPECT_GT(outcomes[2], 200);
+}
+
+// Whole values are summed as integers, anything else as doubles in word order:
+// either way a prepared value must equal WortBewertung.
+TEST(PreparedWords, ValuesEqualWortBewertungWhateverTheTableHolds) {
+    struct Case {
+        const char* name;
+        double common; // every character, then Q X Y get `rare`
+        double rare;
+        std::size_t longest;
+    };
+    const double inf = std::numeric_limits<double>::infinity();
+    // clang-format off
+    const Case cases[] = {
+        {"game values", 1, 10, 12},           {"negative whole", -3, 7, 40},
+        {"largest whole", 1048576, -1048576, 5000}, {"just above the whole bound", 1048577, 3, 5000},
+        {"halves", 0.5, 2.5, 12},             {"tiny fractions", 1e-9, 1, 12},
+        {"huge sums", 1e308, -1e308, 12},     {"infinite", inf, 1, 12},
+    };
+    // clang-format on
+    RandomTexts random(7);
+    for (const Case& c : cases) {
+        LetterValueTable values;
+        for (unsigned code = 0; code < 256; ++code)
+            values.set(static_cast<unsigned char>(code), c.common);
+        for (const char16_t letter : u"QXY")
+            values.set(windows1252Code(letter), c.rare);
+        std::vector<std::u16string> list;
+        for (int n = 0; n < 300; ++n)
+            list.push_back(random.text(random.below(c.longest + 1)));
+        const PreparedWords words(WordDatabase(joinedLines(list)), values);
+        for (std::size_t i = 0; i < list.size(); ++i)
+            ASSERT_EQ(words.entry(i).value, WortBewertung(values, list[i])) << c.name;
+    }
+}
+
+TEST(LetterColumns, NeededLettersInWordOrderLeftOverInRackOrder) {
+    struct Case {
+        std::u16string word, rack, needed, leftOver;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {u"EE",    u"AFEEZHRB", u"",      u"afzhrb"},
+        {u"fee",   u"AFEEZHRB", u"",      u"azhrb"},
+        {u"TEST",  u"E",        u"tst",   u""},
+        {u"AX",    u"ZYXA",     u"",      u"zy"},
+        {u"A",     u"BAXA",     u"",      u"bxa"},
+        {u"FEE",   u"FE E",     u"",      u" "},
+        {u"ÄÖ",    u"ÜÄ",       u"ö",     u"ü"},
+        {u"SS",    u"ß",        u"ss",    u"ß"},
+        {u"",      u"AB C",     u"",      u"ab c"},
+        {u"A1?",   u"?A",       u"1",     u""},
+    };
+    // clang-format on
+    std::vector<std::u16string> words, needed, leftOver;
+    for (const Case& c : cases) {
+        EXPECT_EQ(neededLetters(c.word, c.rack), c.needed) << toUtf8(c.word);
+        EXPECT_EQ(leftOverLetters(c.word, c.rack), c.leftOver) << toUtf8(c.word);
+        words.push_back(c.word);
+    }
+    EXPECT_EQ(ZusBuchstabenFeld(words, u"FEX"),
+              (std::vector<std::u16string>{u"e", u"e", u"tst", u"a", u"a", u"e", u"äö", u"ss", u"",
+                                           u"a1?"}));
+    EXPECT_EQ(ÜbrigeBuchstFeld(words, u"FEX"),
+              (std::vector<std::u16string>{u"fx", u"x", u"fx", u"fe", u"fex", u"x", u"fex", u"fex",
+                                           u"fex", u"fex"}));
+}
+
+} // namespace
+} // namespace lettriner
