@@ -37,7 +37,9 @@ TEST(ParseOptions, ReadsEveryFormOfEveryOption) {
         {{"--tsv", "--min"}, "option --min needs a text"},
         {{"-C"}, "option -C needs a folder"},
         {{"--tsv", "AFEE"}, "unexpected argument AFEE"},
-        {{"--help", "--nope"}, "unknown option --nope"}};
+        {{"--help", "--nope"}, "unknown option --nope"},
+        {{""}, "unexpected argument "},
+        {{"=x"}, "unexpected argument =x"}};
     for (const auto& [arguments, error] : bad)
         EXPECT_EQ(parseOptions(arguments).error, error);
 }

@@ -124,14 +124,14 @@ TEST(LetterTest, LiteralAndFastTestGiveTheExpectedResult) {
 
 // Mostly rack letters, so that many words are accepted; then rarer and
 // lower-case letters; then characters outside the alphabet, one of them
-// without a Windows-1252 code (U+4E00 counts as "?").
+// without a Windows-1252 code (U+4E00 counts as "?"), one just past Latin-1.
 class RandomTexts {
 public:
     explicit RandomTexts(std::uint32_t seed) : engine_(seed) {}
     std::size_t below(std::size_t bound) { return engine_() % bound; }
     std::u16string text(std::size_t length) {
         static constexpr std::u16string_view kinds[] = {u"AEFHRBZEENSTI", u"QXYJÄÖÜßaeäöüßz",
-                                                        u" 1?é\t\n€-\u0153\u4E00"};
+                                                        u" 1?é\t\n€-\u0100\u0153\u4E00"};
         std::u16string result;
         for (std::size_t i = 0; i < length; ++i) {
             const std::size_t kind = below(10);
@@ -225,8 +225,10 @@ TEST(PreparedWords, ValuesEqualWortBewertungWhateverTheTableHolds) {
         for (int n = 0; n < 300; ++n)
             list.push_back(random.text(random.below(c.longest + 1)));
         const PreparedWords words(WordDatabase(joinedLines(list)), values);
-        for (std::size_t i = 0; i < list.size(); ++i)
+        for (std::size_t i = 0; i < list.size(); ++i) {
             ASSERT_EQ(words.entry(i).value, WortBewertung(values, list[i])) << c.name;
+            ASSERT_EQ(std::u16string(words.upper(i)), toUpper(list[i])) << c.name;
+        }
     }
 }
 
