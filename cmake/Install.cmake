@@ -5,7 +5,8 @@
 #   lib/lettriner/                     the program's folder: executables, Sprachen.txt,
 #                                      Settings.txt (the program may rewrite it)
 #   share/lettriner/                   DB1.txt, Bewertung1.txt, Bewertung2.txt, read
-#                                      from the current folder, which the launcher sets
+#                                      from the current folder, which the launcher sets;
+#                                      wordlist/, the rules DB1.txt is generated with
 #   share/applications, share/icons    the desktop menu entry and its icon
 #
 # The Debian package does not carry DB1.txt: it depends on wngerman and builds the
@@ -22,6 +23,8 @@ install(FILES "${LETTRINER_RUN_DIR}/Sprachen.txt" "${LETTRINER_RUN_DIR}/Settings
         DESTINATION "${LETTRINER_PROGRAM_DIR}" COMPONENT program)
 install(FILES "${LETTRINER_RUN_DIR}/Bewertung1.txt" "${LETTRINER_RUN_DIR}/Bewertung2.txt"
         DESTINATION "${LETTRINER_DATA_DIR}" COMPONENT program)
+install(DIRECTORY "${LETTRINER_WORD_RULES}/" DESTINATION "${LETTRINER_DATA_DIR}/wordlist"
+        COMPONENT program FILES_MATCHING PATTERN "*.txt" PATTERN "*.COPYING" PATTERN "*.md")
 install(FILES "${LETTRINER_RUN_DIR}/DB1.txt"
         DESTINATION "${LETTRINER_DATA_DIR}" COMPONENT wordlist)
 install(PROGRAMS "${PROJECT_SOURCE_DIR}/packaging/lettriner-launcher.sh"

@@ -1,9 +1,12 @@
 // lettriner-make-data: writes the data files the program ships.
-//   lettriner-make-data words SOURCE OUT   game word list from a UTF-8 German list
+//   lettriner-make-data words SOURCE RULES OUT
+//                     game word list from a UTF-8 German list, with the rule
+//                     files of the folder RULES (see tools/wordlist/README.md)
 //   lettriner-make-data letters OUT1 OUT2  letter table and values
 //   lettriner-make-data messages OUT       message file
 //   lettriner-make-data settings OUT       default settings file
 
+#include "data/text_case.h"
 #include "tools/game_words.h"
 #include "tools/shipped_tables.h"
 
@@ -12,6 +15,7 @@
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -25,24 +29,52 @@ bool writeFile(const std::string& path, const std::string& bytes) {
     return true;
 }
 
-int makeWords(const std::string& source, const std::string& target) {
-    std::ifstream in(source, std::ios::binary);
-    if (!in) {
+bool readFile(const std::string& path, std::string& bytes) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in)
+        return false;
+    bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    return true;
+}
+
+int makeWords(const std::string& source, const std::string& rulesFolder,
+              const std::string& target) {
+    std::string list;
+    if (!readFile(source, list)) {
         std::cerr << "lettriner-make-data: the German word list " << source
                   << " is missing; install the Debian package 'wngerman'\n";
         return 1;
     }
-    const std::string list{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-    const auto words = lettriner::tools::gameWords(list);
-    if (words.empty()) {
+    const auto ruleWords = [&rulesFolder](const char* name, std::vector<std::u16string>& words) {
+        std::string bytes;
+        if (!readFile(rulesFolder + "/" + name, bytes)) {
+            std::cerr << "lettriner-make-data: cannot read " << rulesFolder << '/' << name << '\n';
+            return false;
+        }
+        words = lettriner::tools::ruleFileWords(bytes);
+        return true;
+    };
+    lettriner::tools::WordListRules rules;
+    std::vector<std::u16string> exclusions;
+    std::vector<std::u16string> vowelless;
+    if (!ruleWords("wordgame-exclusions.txt", exclusions) ||
+        !ruleWords("vowelless.txt", vowelless) || !ruleWords("supplement.txt", rules.supplement))
+        return 1;
+    rules.exclusions.insert(exclusions.begin(), exclusions.end());
+    for (const std::u16string& word : vowelless)
+        rules.vowelless.insert(lettriner::toLower(word));
+    const auto words = lettriner::tools::gameWords(list, rules);
+    if (words.words.empty()) {
         std::cerr << "lettriner-make-data: " << source << " holds no usable words\n";
         return 1;
     }
-    return writeFile(target, lettriner::tools::wordFileBytes(words)) ? 0 : 1;
+    std::cout << "lettriner-make-data: " << target << " from " << source << ":\n"
+              << lettriner::tools::reportText(words);
+    return writeFile(target, lettriner::tools::wordFileBytes(words.words)) ? 0 : 1;
 }
 
 int usage() {
-    std::cerr << "usage: lettriner-make-data words SOURCE OUT | letters OUT1 OUT2 | "
+    std::cerr << "usage: lettriner-make-data words SOURCE RULES OUT | letters OUT1 OUT2 | "
                  "messages OUT | settings OUT\n";
     return 2;
 }
@@ -53,8 +85,8 @@ int main(int argc, char** argv) {
     if (argc < 3)
         return usage();
     const std::string_view command = argv[1];
-    if (command == "words" && argc == 4)
-        return makeWords(argv[2], argv[3]);
+    if (command == "words" && argc == 5)
+        return makeWords(argv[2], argv[3], argv[4]);
     if (command == "letters" && argc == 4) {
         return writeFile(argv[2], lettriner::tools::letterFileBytes()) &&
                        writeFile(argv[3], lettriner::tools::valueFileBytes())
