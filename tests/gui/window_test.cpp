@@ -1,0 +1,440 @@
+// The main window as a player sees it, driven headless, one table per interaction.
+
+#include "data/word_database.h"
+#include "engine/headless_search.h"
+#include "engine/letter_values.h"
+#include "support/temp_folder.h"
+#include "ui/about/about_box.h"
+#include "ui/main/banner.h"
+#include "ui/main/form1.h"
+#include "ui/main/progress_box.h"
+#include "ui/main/result_table_model.h"
+
+#include <QDir>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProcess>
+#include <QTableView>
+#include <QTest>
+#include <QTimer>
+#include <random>
+
+using namespace lettriner;
+using namespace lettriner::testing;
+using namespace lettriner::ui;
+
+namespace {
+
+// RAHMEN with minimum 5 keeps RAHMEN 9 (the bonus word), MEHR 7, RAHM 7, NAME 6,
+// AMEN 6 and HARN 5; HEMD needs a D, NAH is worth 4.
+const QStringList kWords = {"Rahmen", "Mehr", "Rahm", "Name", "Amen", "Harn", "Hemd", "nah"};
+
+// Windows-1252 with CR LF; letter values R A E N S 1, H 2, M D 3, X 8, Ä 6.
+void writeDataFiles(const TempFolder& folder, const QStringList& words) {
+    folder.write("DB1.txt", (words.join("\r\n") + "\r\n").toLatin1().toStdString());
+    folder.write("Bewertung1.txt", "R\r\nA\r\nH\r\nM\r\nE\r\nN\r\nD\r\nS\r\nX\r\n\xC4\r\n");
+    folder.write("Bewertung2.txt", "1\r\n1\r\n2\r\n3\r\n1\r\n1\r\n3\r\n1\r\n8\r\n6\r\n");
+}
+
+// The first `columns` cells of every shown row, row by row.
+QStringList cells(const ResultTableModel& list, int columns = 1) {
+    QStringList texts;
+    for (int row = 0; row < list.rowCount(QModelIndex()); ++row)
+        for (int column = 0; column < columns; ++column)
+            texts.append(list.cell(row, column));
+    return texts;
+}
+
+QStringList cells(const MemoryResultList& list) {
+    QStringList texts;
+    for (const MemoryResultList::Row& row : list.rows())
+        for (const std::u16string& cell : row)
+            texts.append(QString::fromStdU16String(cell));
+    return texts;
+}
+
+// A window over `words` (none: no data files) in a fresh folder, its cover ticked
+// by hand: eight ticks after loading, unless ticks before loading are asked for.
+struct LoadedWindow {
+    explicit LoadedWindow(const QStringList& words = kWords, int ticksBeforeLoading = -1) {
+        if (!words.isEmpty())
+            writeDataFiles(folder, words);
+        form.setExitHandler([] {}); // a stray close request must not end the tests
+        for (int tick = 0; tick < ticksBeforeLoading; ++tick)
+            form.Timer2_Timer();
+        form.Form_Load();
+        get<QTimer>("Timer2")->stop();
+        while (ticksBeforeLoading < 0 && form.LadeTakte() < 8)
+            form.Timer2_Timer();
+    }
+    template <class T = QWidget> T* get(const QString& name) { return form.findChild<T*>(name); }
+    QLineEdit* field(const QString& name) { return get<QLineEdit>(name); }
+    void search(const QString& rack) {
+        field("txtBuchstaben")->setText(rack);
+        field("txtBuchstaben")->setFocus();
+        QTest::keyClick(field("txtBuchstaben"), Qt::Key_Return);
+    }
+
+    TempFolder folder;
+    CurrentFolder current{folder.path()};
+    Form1 form{folder.path()};
+};
+
+// In a child process: exit code 0 comes only from the window ending the process
+// on the close request; 3 means the program got back here.
+int closeAt(const QString& moment, const char* folder) {
+    CurrentFolder current(folder);
+    Form1 form(folder);
+    if (moment == "loading")
+        QTimer::singleShot(0, &form, &QWidget::close);
+    form.Form_Load();
+    if (moment == "cover")
+        form.close();
+    if (moment == "search")
+        QTimer::singleShot(0, &form, &QWidget::close);
+    form.findChild<QLineEdit*>("txtBuchstaben")->setText("RAHMEN");
+    form.cmdSuchen_Click();
+    return 3;
+}
+
+} // namespace
+
+class WindowTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void startUp_data() {
+        QTest::addColumn<int>("words");
+        QTest::addColumn<int>("ticksBeforeLoading");
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("entries"); // an empty list's highest index is -1
+        // clang-format off
+        QTest::newRow("ticks before loading do not count") << 3    << 5 << QLocale::c()     << "3 Einträge";
+        QTest::newRow("no data files at all")              << 0    << 0 << QLocale::c()     << "-1 Einträge";
+        QTest::newRow("count grouped on a German system")  << 1234 << 0 << QLocale("de_DE") << "1.234 Einträge";
+        // clang-format on
+    }
+    void startUp() {
+        QFETCH(int, words);
+        QFETCH(int, ticksBeforeLoading);
+        QFETCH(QLocale, locale);
+        QFETCH(QString, entries);
+        QLocale::setDefault(locale);
+        LoadedWindow w(QStringList(words, "WORT"), ticksBeforeLoading);
+        QLocale::setDefault(QLocale::c());
+        for (int tick = 1; tick <= 8; ++tick) {
+            w.form.Timer2_Timer();
+            QCOMPARE(w.get("Frame3")->isVisible(), tick < 8); // the cover
+            // Six dots after the first tick, then one to six over again.
+            QCOMPARE(w.get<QLabel>("lblPunkte")->text().size(),
+                     (ticksBeforeLoading + tick + 4) % 6 + 1);
+        }
+        QCOMPARE(w.get<QLabel>("lblDBCount")->text(), "gesamte Datenbank: \n" + entries);
+        QCOMPARE(w.form.frameGeometry().height(), twips(8175));
+        QCOMPARE(w.form.width(), twips(10905));
+        QCOMPARE(w.get("cmdStop")->geometry(), w.get("cmdSuchen")->geometry());
+        QVERIFY(!w.get("cmdStop")->isVisible());
+    }
+
+    void closeEndsTheProgram_data() {
+        QTest::addColumn<QString>("moment");
+        QTest::newRow("while loading") << "loading";
+        QTest::newRow("under the cover") << "cover";
+        QTest::newRow("during a search") << "search";
+    }
+    void closeEndsTheProgram() {
+        QFETCH(QString, moment);
+        TempFolder folder;
+        writeDataFiles(folder, kWords);
+        const QString path = QString::fromStdString(folder.path().string());
+        QProcess child;
+        child.start(QCoreApplication::applicationFilePath(), {"--close-at", moment, path});
+        QVERIFY(child.waitForFinished(30000));
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(child.exitCode(), 0);
+        QCOMPARE(QDir(path).entryList(QDir::Files), // only the settings file is new
+                 (QStringList{"Bewertung1.txt", "Bewertung2.txt", "DB1.txt", "Settings.txt"}));
+    }
+
+    void editingTheRack_data() {
+        QTest::addColumn<QString>("before"); // | is the caret, [ ] a selection
+        QTest::addColumn<QString>("input");  // typed, a <click> or a <key sequence>
+        QTest::addColumn<QString>("after");
+        // clang-format off
+        QTest::newRow("a ä ß typed in front of BC") << "|BC"  << "aäß"            << "AÄß|BC";
+        QTest::newRow("a click selects all")        << "AB|C" << "<click>"        << "[ABC]";
+        QTest::newRow("Ctrl+A selects all")         << "AB|C" << "<Ctrl+A>"       << "[ABC]";
+        QTest::newRow("Ctrl+Shift+A does not")      << "AB|C" << "<Ctrl+Shift+A>" << "AB|C";
+        // clang-format on
+    }
+    void editingTheRack() {
+        QFETCH(QString, before);
+        QFETCH(QString, input);
+        QFETCH(QString, after);
+        LoadedWindow w;
+        QLineEdit* edit = w.field("txtBuchstaben");
+        edit->setText(QString(before).remove('|'));
+        edit->setCursorPosition(before.indexOf('|'));
+        if (input == "<click>")
+            QTest::mouseClick(edit, Qt::LeftButton, {}, edit->rect().center());
+        else if (input.startsWith('<'))
+            QTest::keySequence(edit, QKeySequence(input.mid(1).chopped(1)));
+        else // typed as a keyboard sends it, umlauts included
+            for (const QChar c : input)
+                QTest::sendKeyEvent(QTest::Press, edit, Qt::Key_unknown, QString(c), {});
+        QString shown = edit->text().insert(edit->cursorPosition(), '|');
+        if (edit->hasSelectedText())
+            shown = '[' + edit->selectedText() + ']';
+        QCOMPARE(shown, after);
+    }
+
+    void aboutBoxOpensOnce_data() {
+        QTest::addColumn<QString>("trigger"); // F1, or the control clicked
+        QTest::newRow("F1") << "F1";
+        QTest::newRow("the ? button") << "cmdInfo";
+        QTest::newRow("a click on the banner") << "Picture1";
+    }
+    void aboutBoxOpensOnce() {
+        QFETCH(QString, trigger);
+        LoadedWindow w;
+        for (int time = 0; time < 2; ++time) {
+            if (trigger == "F1")
+                QTest::keyClick(w.field("txtBuchstaben"), Qt::Key_F1);
+            else
+                QTest::mouseClick(w.get(trigger), Qt::LeftButton, {}, QPoint(8, 8));
+        }
+        QCOMPARE(w.form.findChildren<frmAbout*>().size(), 1);
+        QVERIFY(w.form.aboutBox()->isVisible());
+    }
+
+    void bannerBorder_data() {
+        QTest::addColumn<QString>("over"); // where the pointer goes from the banner
+        QTest::addColumn<bool>("framed");
+        QTest::newRow("the input frame's surface") << "Frame1" << true;
+        QTest::newRow("a caption") << "Label1" << false;
+        QTest::newRow("a text field") << "txtConst" << false;
+    }
+    void bannerBorder() {
+        QFETCH(QString, over);
+        QFETCH(bool, framed);
+        LoadedWindow w;
+        QTest::mouseMove(w.get("Picture1"), QPoint(200, 30));
+        QVERIFY(!w.get<Banner>("Picture1")->hasBorder());
+        QTest::mouseMove(w.get(over), QPoint(4, 4));
+        QCOMPARE(w.get<Banner>("Picture1")->hasBorder(), framed);
+    }
+
+    void comparison_data() {
+        QTest::addColumn<QString>("t1");
+        QTest::addColumn<QString>("t2");
+        QTest::addColumn<SortKind>("kind");
+        QTest::addColumn<int>("direction");
+        QTest::addColumn<int>("result");
+        // clang-format off
+        QTest::newRow("Z before Ä ascending")     << "ZEBRA"           << "ÄHRE"                   << SortKind::Text   << 0  << -1;
+        QTest::newRow("Z after Ä descending")     << "ZEBRA"           << "ÄHRE"                   << SortKind::Text   << 1  << 1;
+        QTest::newRow("equal values ascending")   << "07"              << "7"                      << SortKind::Number << 0  << 1;
+        QTest::newRow("equal values descending")  << "07"              << "7"                      << SortKind::Number << 1  << 1;
+        QTest::newRow("any other direction")      << "A"               << "B"                      << SortKind::Text   << -5 << 1;
+        QTest::newRow("only 512 characters read") << QString(600, 'A') << QString(512, 'A') + 'C' << SortKind::Text   << 0  << 0;
+        // clang-format on
+    }
+    void comparison() {
+        QFETCH(QString, t1);
+        QFETCH(QString, t2);
+        QFETCH(SortKind, kind);
+        QFETCH(int, direction);
+        QFETCH(int, result);
+        QCOMPARE(ListenVergleich({"W1", t1}, {"W2", t2}, {1, kind, direction}), result);
+    }
+
+    void headerClicks_data() {
+        QTest::addColumn<QList<int>>("clicks");
+        QTest::addColumn<QString>("order"); // empty: clicked on an empty list
+        QTest::addColumn<int>("direction");
+        // clang-format off
+        QTest::newRow("Wortwert once: highest first")     << QList<int>{2}    << "ÄHRE RAHMEN abend ZEBRA MEHR HARN" << 1;
+        QTest::newRow("Wortwert twice: lowest first")     << QList<int>{2, 2} << "HARN ZEBRA MEHR RAHMEN abend ÄHRE" << 0;
+        QTest::newRow("Wortlänge next: direction shared") << QList<int>{2, 1} << "ÄHRE MEHR HARN abend ZEBRA RAHMEN" << 0;
+        QTest::newRow("Wort twice: capitals, small, Ä")   << QList<int>{0, 0} << "HARN MEHR RAHMEN ZEBRA abend ÄHRE" << 0;
+        QTest::newRow("empty list: a click still flips")  << QList<int>{3}    << ""                                  << 1;
+        // clang-format on
+    }
+    void headerClicks() {
+        QFETCH(QList<int>, clicks);
+        QFETCH(QString, order);
+        QFETCH(int, direction);
+        LoadedWindow w;
+        ResultTableModel& list = w.form.mainList();
+        const QString rows = "HARN 4 5, RAHMEN 6 9, ÄHRE 4 12, ZEBRA 5 7, MEHR 4 7, abend 5 9";
+        for (const QString& row : (order.isEmpty() ? "" : rows).split(", ", Qt::SkipEmptyParts)) {
+            const QStringList cell = row.split(' '); // word, length, value
+            list.addRow(cell[0].toStdU16String());
+            list.setSubItem(list.rowCount(), 1, cell[1].toStdU16String());
+            list.setSubItem(list.rowCount(), 2, cell[2].toStdU16String());
+        }
+        list.publishFinished();
+        QHeaderView* header = w.get<QTableView>("ListView1")->horizontalHeader();
+        for (const int column : clicks)
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                              QPoint(header->sectionViewportPosition(column) + 5, 5));
+        QCOMPARE(cells(list).join(' '), order);
+        QCOMPARE(w.form.SortRichtung(), direction);
+    }
+
+    void bonusListGeometry_data() {
+        QTest::addColumn<QString>("rack");
+        QTest::addColumn<bool>("shown");
+        QTest::addColumn<QRect>("list1");
+        QTest::addColumn<QRect>("list2");
+        // A bonus halves the main list; the bonus list goes 300 twips below, 600 shorter.
+        const QRect full = TwipsRect{120, 840, 5055, 4935}.toPixels();
+        const QRect half = TwipsRect{120, 840, 5055, 2467}.toPixels();
+        const QRect below = TwipsRect{120, 3607, 5055, 1867}.toPixels();
+        const QRect designed = TwipsRect{120, 4200, 5055, 1575}.toPixels();
+        // clang-format off
+        QTest::newRow("bonus word found")                 << "RAHMEN"  << true  << half << below;
+        QTest::newRow("no bonus word")                    << "RAHMENS" << false << full << designed;
+        QTest::newRow("space in the rack: never a bonus") << "RAHMEN " << false << full << designed;
+        // clang-format on
+    }
+    void bonusListGeometry() {
+        QFETCH(QString, rack);
+        QFETCH(bool, shown);
+        QFETCH(QRect, list1);
+        QFETCH(QRect, list2);
+        LoadedWindow w;
+        w.search(rack);
+        QCOMPARE(w.get("ListView2")->isVisible(), shown);
+        QCOMPARE(w.get("ListView1")->geometry(), list1);
+        QCOMPARE(w.get("ListView2")->geometry(), list2);
+    }
+
+    void searchFromTheWindow_data() {
+        QTest::addColumn<QStringList>("words");
+        QTest::addColumn<QString>("duringRun"); // at the first pass: Esc, stop, or a field's text
+        QTest::addColumn<QString>("kept");
+        QTest::addColumn<int>("found");
+        QTest::addColumn<QString>("minimum"); // the field after this search and after the next
+        const QString all = "RAHMEN MEHR RAHM NAME AMEN HARN";
+        // clang-format off
+        QTest::newRow("Enter starts")                     << kWords << ""                     << all                          << 6 << "5";
+        QTest::newRow("Esc stops after the word in hand") << kWords << "Esc"                  << "RAHMEN"                     << 1 << "5";
+        QTest::newRow("stop button, likewise")            << kWords << "stop"                 << "RAHMEN"                     << 1 << "5";
+        QTest::newRow("minimum 6.5 rounds to the even 6") << kWords << "txtMindestWert 6.5"   << "RAHMEN MEHR RAHM NAME AMEN" << 5 << "6.5";
+        QTest::newRow("minimum 7.5 rounds to the even 8") << kWords << "txtMindestWert 7.5"   << "RAHMEN"                     << 1 << "7.5";
+        QTest::newRow("minimum 40000: 5 kept")            << kWords << "txtMindestWert 40000" << all                          << 6 << "40000";
+        QTest::newRow("field size 2: pruned, 7 raised")   << kWords << "txtMaxUB 2"           << "RAHMEN MEHR"                << 3 << "7";
+        QTest::newRow("field size 32768: 500 kept")       << kWords << "txtMaxUB 32768"       << all                          << 6 << "5";
+        QTest::newRow("empty word list")                  << QStringList{} << ""              << ""                           << 0 << "5";
+        // clang-format on
+    }
+    void searchFromTheWindow() {
+        QFETCH(QStringList, words);
+        QFETCH(QString, duringRun);
+        QFETCH(QString, kept);
+        QFETCH(int, found);
+        QFETCH(QString, minimum);
+        LoadedWindow w(words);
+        w.form.setPacedYield(false); // the first pass comes after the first word
+        QTimer::singleShot(0, &w.form, [&] {
+            if (duringRun == "Esc")
+                QTest::keyClick(w.field("txtBuchstaben"), Qt::Key_Escape);
+            else if (duringRun == "stop")
+                QTest::mouseClick(w.get("cmdStop"), Qt::LeftButton);
+            else if (!duringRun.isEmpty())
+                w.field(duringRun.section(' ', 0, 0))->setText(duringRun.section(' ', 1));
+        });
+        w.search("RAHMEN");
+        QCOMPARE(cells(w.form.mainList()).join(' '), kept);
+        QCOMPARE(w.get<QLabel>("lblInfos")->text(), QString("%1 Wörter gefunden").arg(found));
+        QCOMPARE(w.field("txtMindestWert")->text(), minimum);
+        w.search("RAHMEN");
+        QCOMPARE(w.field("txtMindestWert")->text(), minimum);
+    }
+
+    void progressBar_data() {
+        QTest::addColumn<int>("percent");
+        QTest::addColumn<int>("drawnAs");
+        QTest::newRow("42 %") << 42 << 42;
+        QTest::newRow("above 100: a full bar") << 250 << 100;
+        QTest::newRow("negative: no bar") << -5 << 0;
+    }
+    void progressBar() {
+        QFETCH(int, percent);
+        QFETCH(int, drawnAs);
+        ProgressBox box;
+        ProgressMalen(box, static_cast<std::int16_t>(percent));
+        const QImage image = box.drawing();
+        const QColor bar(230 - drawnAs, drawnAs + 30, drawnAs + 90);
+        int barEnd = 0; // along the top, above the label
+        while (barEnd < image.width() && QColor(image.pixel(barEnd, 1)) == bar)
+            ++barEnd;
+        QVERIFY(qAbs(barEnd - image.width() * drawnAs / 100.0) <= 1);
+        QList<int> inked; // columns with the label's ink, darker than any bar
+        for (int x = 0; x < image.width(); ++x)
+            for (int y = 0; y < image.height(); ++y)
+                if (qGray(image.pixel(x, y)) < 60 && (inked.isEmpty() || inked.last() != x))
+                    inked.append(x);
+        QVERIFY(qAbs(inked.first() + inked.last() + 1 - image.width()) <= 4); // centred
+    }
+
+    // The only test of re-entrancy: a timer served by the runs' own passes fires
+    // input; keys are posted, so the searches they start run outside its slot.
+    void stormLeavesTheWindowIdleAndRight() {
+        // The test words 500 times: a run with a pass after every word spans many ticks.
+        LoadedWindow w((kWords.join(' ') + ' ').repeated(500).split(' ', Qt::SkipEmptyParts));
+        w.form.setPacedYield(false);
+        w.field("txtBuchstaben")->setText("RAHMEN");
+        QHeaderView* header = w.get<QTableView>("ListView1")->horizontalHeader();
+        const QStringList texts = {"0", "2", "5", "-3", "x", "40000", "", "RAHMEN", "ÄÄX"};
+        std::mt19937 random(20261123);
+        int actions = 0, actionsDuringRuns = 0;
+        QTimer ticker;
+        connect(&ticker, &QTimer::timeout, &w.form, [&] {
+            actionsDuringRuns += w.form.isSearching() ? 1 : 0;
+            if (const unsigned action = random() % 6; action < 2) // keys go to the focus
+                QCoreApplication::postEvent(
+                    w.form.focusWidget(),
+                    new QKeyEvent(QEvent::KeyPress, action ? Qt::Key_Escape : Qt::Key_Return, {}));
+            else if (action == 2)
+                QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                                  QPoint(header->sectionViewportPosition(random() % 5) + 3, 3));
+            else // any text into the minimum, the field size or the rack
+                w.field(QStringList{"txtMindestWert", "txtMaxUB", "txtBuchstaben"}[action - 3])
+                    ->setText(texts[random() % 9]);
+            if (++actions == 400)
+                ticker.stop();
+        });
+        ticker.start(0);
+        QTRY_VERIFY_WITH_TIMEOUT(!ticker.isActive() && !w.form.isSearching(), 60000);
+        QVERIFY2(actionsDuringRuns >= 100, qPrintable(QString::number(actionsDuringRuns)));
+        QVERIFY(w.get("cmdSuchen")->isVisible() && !w.get("cmdStop")->isVisible());
+
+        // A calm search now gives what the same texts give without a window.
+        w.field("txtMindestWert")->setText("4");
+        w.field("txtMaxUB")->setText("100");
+        QCoreApplication::processEvents(); // keys still posted
+        w.search("RAHMEN");
+        const HeadlessOutcome expected = searchWithoutWindow(
+            PreparedWords(DatenbankEinlesen("DB1.txt"), BewertungsFeldLaden()),
+            {.texts = {.rack = u"RAHMEN"}, .minimum = u"4", .fieldSize = u"100"});
+        QCOMPARE(cells(w.form.mainList(), kResultColumns), cells(expected.mainList));
+        QCOMPARE(cells(w.form.bonusList(), kResultColumns), cells(expected.bonusList));
+        QCOMPARE(w.field("txtMindestWert")->text(),
+                 QString::fromStdU16String(expected.minimumText));
+        QCOMPARE(w.get<QLabel>("lblInfos")->text(),
+                 QString("%1 Wörter gefunden").arg(expected.found));
+    }
+};
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    if (argc == 4 && QByteArray(argv[1]) == "--close-at")
+        return closeAt(QString::fromLatin1(argv[2]), argv[3]);
+    WindowTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "window_test.moc"
