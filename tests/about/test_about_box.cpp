@@ -64,7 +64,6 @@ private slots:
         QTest::newRow("onto the donate picture") << QStringList{"imgDonate"}                   << true  << Urls{};
         QTest::newRow("donate, then the logo")   << QStringList{"imgDonate", "imgBrisvel"}     << true  << Urls{};
         QTest::newRow("donate, then background") << QStringList{"imgDonate", "background"}     << false << Urls{};
-        QTest::newRow("donate, then the text")   << QStringList{"imgDonate", "lblDescription"} << false << Urls{};
         QTest::newRow("donate clicked")          << QStringList{"imgDonate", "click"}          << true  << Urls{kDonationPage};
         QTest::newRow("address clicked")         << QStringList{"Label2", "click"}             << false << Urls{kHomePage};
         QTest::newRow("the address's caption")   << QStringList{"Label1", "click"}             << false << Urls{};

@@ -1,13 +1,9 @@
 // The data tool: the rules that make the game's word list, and the small
 // tables shipped beside it. (lettriner-audit-words checks the list itself.)
 
-#include "data/language_file.h"
-#include "data/settings_file.h"
 #include "data/text_codec.h"
 #include "data/utf8.h"
-#include "data/word_database.h"
 #include "engine/letter_values.h"
-#include "support/temp_folder.h"
 #include "tools/game_words.h"
 #include "tools/shipped_tables.h"
 
@@ -64,28 +60,11 @@ TEST(GameWords, KeepsWordsAPlayerCanLayOncePerUpperCaseForm) {
     EXPECT_TRUE(reportText(list).ends_with("       9  words in the game's word list\n"));
 }
 
-TEST(WordFileBytes, ReadBackByTheProgramAsTheWordsAndOneEmptyEntry) {
-    const std::string bytes = wordFileBytes({u"Äpfel", u"über"});
-    EXPECT_EQ(bytes, "\xC4pfel\r\n\374ber\r\n");
-    const WordDatabase list(decodeWindows1252(bytes));
-    EXPECT_EQ(list.highestIndex(), 2);
-}
-
-TEST(ShippedTables, LetterValuesMessagesAndSettingsReadBackAsMeant) {
+TEST(ShippedTables, LetterValuesOfTheGermanEdition) {
     const LetterValueTable values = letterValuesFromTexts(decodeWindows1252(letterFileBytes()),
                                                           decodeWindows1252(valueFileBytes()));
-    EXPECT_EQ(WortBewertung(values, u"ENSIRTUAD HGLO MBWZ CFKP ÄJÜV ÖX QY"),
-              9 * 1 + 4 * 2 + 4 * 3 + 4 * 4 + 4 * 6 + 2 * 8 + 2 * 10);
-    EXPECT_EQ(WortBewertung(values, u"ß"), 0); // no ß tile
-    lettriner::testing::TempFolder folder;
-    folder.write("Sprachen.txt", messageFileBytes());
-    EXPECT_EQ(MeldungLaden(folder.path(), u"[Suchen]", 0), u"Suchen");
-    EXPECT_EQ(MeldungLaden(folder.path(), u"[Bonus]", 1),
-              u"These words use every tile.\r\nThey earn a bonus.");
-    folder.write("Settings.txt", settingsFileBytes());
-    EXPECT_EQ(SettingsLaden(folder.path()), 0);
-    SettingsSpeichern(folder.path(), 0);
-    EXPECT_EQ(folder.read("Settings.txt"), settingsFileBytes());
+    EXPECT_EQ(WortBewertung(values, u"ENSIRTUAD HGLO MBWZ CFKP ÄJÜV ÖX QYß"),
+              9 * 1 + 4 * 2 + 4 * 3 + 4 * 4 + 4 * 6 + 2 * 8 + 2 * 10); // no ß tile
 }
 
 } // namespace

