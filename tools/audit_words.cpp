@@ -8,17 +8,15 @@
 
 #include "data/text_case.h"
 #include "data/text_codec.h"
-#include "data/text_lines.h"
 #include "data/utf8.h"
 #include "data/word_database.h"
 #include "engine/headless_search.h"
 #include "engine/letter_values.h"
+#include "tools/file_bytes.h"
 #include "tools/game_words.h"
 #include "tools/shipped_tables.h"
 
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <random>
 #include <string>
 #include <unordered_set>
@@ -29,12 +27,11 @@ using namespace lettriner;
 using FormSet = std::unordered_set<std::u16string>;
 
 std::string fileBytes(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    return tools::fileBytes(path).value_or(std::string());
 }
 
 std::u16string gameForm(std::u16string_view spelling) {
-    return toUpper(replaceAll(tools::withoutAccents(spelling), u"ß", u"ss"));
+    return toUpper(tools::writtenForTheGame(spelling));
 }
 
 // Upper-case forms all of whose source spellings are excluded.

@@ -42,6 +42,10 @@ std::u16string withoutAccents(std::u16string_view word) {
     return result;
 }
 
+std::u16string writtenForTheGame(std::u16string_view word) {
+    return replaceAll(withoutAccents(word), u"ß", u"ss");
+}
+
 bool hasOnlyGameLetters(std::u16string_view word) {
     return std::all_of(word.begin(), word.end(),
                        [](char16_t c) { return isCapital(c) || isSmall(c); });

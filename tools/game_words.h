@@ -16,6 +16,8 @@ namespace lettriner::tools {
 // "Café" gives "Cafe", "Señor" gives "Senor": the game has no accented tiles.
 // Umlauts and ß are letters of their own and stay.
 [[nodiscard]] std::u16string withoutAccents(std::u16string_view word);
+// Without accents and with ß written as ss, since the game has no ß tile.
+[[nodiscard]] std::u16string writtenForTheGame(std::u16string_view word);
 // Only a-z, A-Z, ä ö ü, Ä Ö Ü and ß: no digits, hyphens, apostrophes, blanks.
 [[nodiscard]] bool hasOnlyGameLetters(std::u16string_view word);
 // Two or more capitals anywhere: abbreviations (GmbH, MwSt, CDs) and forms

@@ -7,12 +7,12 @@
 //   lettriner-make-data settings OUT       default settings file
 
 #include "data/text_case.h"
+#include "tools/file_bytes.h"
 #include "tools/game_words.h"
 #include "tools/shipped_tables.h"
 
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,29 +29,22 @@ bool writeFile(const std::string& path, const std::string& bytes) {
     return true;
 }
 
-bool readFile(const std::string& path, std::string& bytes) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in)
-        return false;
-    bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-    return true;
-}
-
 int makeWords(const std::string& source, const std::string& rulesFolder,
               const std::string& target) {
-    std::string list;
-    if (!readFile(source, list)) {
+    const std::optional<std::string> list = lettriner::tools::fileBytes(source);
+    if (!list) {
         std::cerr << "lettriner-make-data: the German word list " << source
                   << " is missing; install the Debian package 'wngerman'\n";
         return 1;
     }
     const auto ruleWords = [&rulesFolder](const char* name, std::vector<std::u16string>& words) {
-        std::string bytes;
-        if (!readFile(rulesFolder + "/" + name, bytes)) {
+        const std::optional<std::string> bytes =
+            lettriner::tools::fileBytes(rulesFolder + "/" + name);
+        if (!bytes) {
             std::cerr << "lettriner-make-data: cannot read " << rulesFolder << '/' << name << '\n';
             return false;
         }
-        words = lettriner::tools::ruleFileWords(bytes);
+        words = lettriner::tools::ruleFileWords(*bytes);
         return true;
     };
     lettriner::tools::WordListRules rules;
@@ -63,7 +56,7 @@ int makeWords(const std::string& source, const std::string& rulesFolder,
     rules.exclusions.insert(exclusions.begin(), exclusions.end());
     for (const std::u16string& word : vowelless)
         rules.vowelless.insert(lettriner::toLower(word));
-    const auto words = lettriner::tools::gameWords(list, rules);
+    const auto words = lettriner::tools::gameWords(*list, rules);
     if (words.words.empty()) {
         std::cerr << "lettriner-make-data: " << source << " holds no usable words\n";
         return 1;
