@@ -100,11 +100,10 @@ int main(int argc, char** argv) {
     constexpr int kRacks = 200;
     std::mt19937 random(2026);
     for (int rack = 0; rack < kRacks; ++rack) {
-        HeadlessFields fields;
-        fields.texts = {u"", u"", u"", u"0"};
+        std::u16string tiles;
         for (int tile = 0; tile < 7; ++tile)
-            fields.texts.rack += bag[random() % bag.size()];
-        fields.minimum = u"0";
+            tiles += bag[random() % bag.size()];
+        const HeadlessFields fields{.texts = {tiles, u"", u"", u"0"}, .minimum = u"0"};
         const HeadlessOutcome outcome = searchWithoutWindow(words, fields);
         const auto& rows = outcome.mainList.rows();
         for (std::size_t row = 0; row < 5 && row < rows.size(); ++row) {
