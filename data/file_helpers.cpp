@@ -3,6 +3,8 @@
 #include "data/text_codec.h"
 #include "data/text_lines.h"
 
+#include <algorithm>
+#include <cstdio>
 #include <fstream>
 #include <new>
 #include <system_error>
@@ -11,14 +13,26 @@ namespace lettriner {
 
 namespace fs = std::filesystem;
 
-std::u16string DateiLesen(const fs::path& Pfad) {
+namespace {
+
+// Creates the file only when nothing stands at the path: "x" opens with
+// O_CREAT | O_EXCL, which never follows a symbolic link (a dangling one stays
+// dangling) and never empties a file that appeared in the meantime.
+std::FILE* createNew(const fs::path& path) {
+    return std::fopen(path.c_str(), "wbx");
+}
+
+} // namespace
+
+std::u16string DateiLesen(const fs::path& Pfad, std::uintmax_t largest) {
     try {
         std::error_code error;
         const fs::file_status status = fs::status(Pfad, error);
         if (status.type() == fs::file_type::not_found) {
             // Opening for read and write creates a missing file, and the
             // program has always left that empty file behind.
-            std::ofstream create(Pfad, std::ios::binary | std::ios::app);
+            if (std::FILE* created = createNew(Pfad))
+                std::fclose(created);
             return {};
         }
         // Only regular files are read: a FIFO or device would block or never end.
@@ -27,7 +41,7 @@ std::u16string DateiLesen(const fs::path& Pfad) {
         std::ifstream file(Pfad, std::ios::binary);
         if (!file)
             return {};
-        const auto size = fs::file_size(Pfad, error);
+        const auto size = std::min(fs::file_size(Pfad, error), largest);
         if (error)
             return {};
         std::string bytes(static_cast<std::size_t>(size), '\0');
@@ -39,6 +53,27 @@ std::u16string DateiLesen(const fs::path& Pfad) {
     } catch (const fs::filesystem_error&) {
         return {};
     }
+}
+
+bool replaceFile(std::u16string_view content, const fs::path& path) {
+    fs::path temporary = path;
+    temporary += ".new";
+    std::error_code ignored;
+    fs::remove(temporary, ignored); // left over by a crash
+    std::FILE* file = createNew(temporary);
+    if (file == nullptr)
+        return false;
+    const std::string bytes = encodeWindows1252(content);
+    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
+    const bool closed = std::fclose(file) == 0; // flushes; a full disk shows here
+    std::error_code error;
+    if (written && closed)
+        fs::rename(temporary, path, error);
+    if (!written || !closed || error) {
+        fs::remove(temporary, ignored);
+        return false;
+    }
+    return true;
 }
 
 void DateiSchreiben(std::u16string_view Inhalt, const fs::path& Pfad) {

@@ -5,6 +5,7 @@
 //
 // Tagged-line format: "[Key]", TAB, value, further TAB fields, CR LF.
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -12,15 +13,22 @@
 
 namespace lettriner {
 
-// The file's whole content, decoded from Windows-1252. An absent file is
-// created empty (and gives empty text); a folder, a device, an unreadable
-// file or any other failure gives empty text.
-[[nodiscard]] std::u16string DateiLesen(const std::filesystem::path& Pfad);
+// The file's whole content, decoded from Windows-1252, or its first `largest`
+// bytes. An absent file is created empty (and gives empty text), but never
+// through a symbolic link; a folder, a device, an unreadable file or any other
+// failure gives empty text.
+[[nodiscard]] std::u16string DateiLesen(const std::filesystem::path& Pfad,
+                                        std::uintmax_t largest = UINTMAX_MAX);
 
 // Replaces the file's content with `Inhalt` in Windows-1252, written as given
 // (no line end is added). Failures are ignored and may leave the file empty
 // or partly written.
 void DateiSchreiben(std::u16string_view Inhalt, const std::filesystem::path& Pfad);
+
+// Replaces the file's content with `content` in Windows-1252 all at once: written
+// to PATH.new beside it, flushed, then renamed over it. On any failure (full
+// disk, read-only folder) the old file stays as it was and false comes back.
+bool replaceFile(std::u16string_view content, const std::filesystem::path& path);
 
 // True when the path names an existing file or folder.
 [[nodiscard]] bool DateiExistiert(const std::filesystem::path& Pfad);

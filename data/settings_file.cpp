@@ -29,7 +29,8 @@ std::int16_t SettingsLaden(const std::filesystem::path& programFolder) {
 }
 
 void SettingsSpeichern(const std::filesystem::path& programFolder, std::int16_t Sprache) {
-    DateiSchreiben(u"[Language]\t\t" + decimalText(Sprache) + u"\r\n", settingsPath(programFolder));
+    // Replaced whole, so a crash or a full disk never leaves a half-written file.
+    replaceFile(u"[Language]\t\t" + decimalText(Sprache) + u"\r\n", settingsPath(programFolder));
 }
 
 } // namespace lettriner

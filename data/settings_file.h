@@ -16,7 +16,8 @@ namespace lettriner {
 // A write that fails (read-only folder) is ignored.
 [[nodiscard]] std::int16_t SettingsLaden(const std::filesystem::path& programFolder);
 
-// Writes "[Language]", two TABs, the index, CR LF as the whole file.
+// Writes "[Language]", two TABs, the index, CR LF as the whole file, replaced at
+// once: a write that fails (full disk, read-only folder) keeps the old file.
 void SettingsSpeichern(const std::filesystem::path& programFolder, std::int16_t Sprache);
 
 } // namespace lettriner

@@ -23,7 +23,7 @@ WordDatabase::WordDatabase(std::u16string text) : text_(std::move(text)) {
 
 WordDatabase DatenbankEinlesen(const std::filesystem::path& Pfad,
                                const std::function<void()>& yield) {
-    std::u16string text = DateiLesen(Pfad);
+    std::u16string text = DateiLesen(Pfad, kLargestWordList);
     if (yield)
         yield();
     return WordDatabase(std::move(text));

@@ -39,10 +39,15 @@ private:
     std::vector<std::size_t> starts_;
 };
 
+// The largest word list read: ten times the shipped one stays far below it,
+// and memory stays bounded whatever file lies in the folder.
+inline constexpr std::uintmax_t kLargestWordList = std::uintmax_t{256} << 20;
+
 // Reads the word list from `Pfad` (start-up passes "DB1.txt", relative to the
 // current folder). `yield` runs once between reading and cutting, so the
 // window can paint its loading cover. An absent or unreadable file gives an
-// empty list (and, being absent, is left behind empty).
+// empty list (and, being absent, is left behind empty). A larger file than
+// kLargestWordList is read up to that limit.
 [[nodiscard]] WordDatabase DatenbankEinlesen(const std::filesystem::path& Pfad,
                                              const std::function<void()>& yield = {});
 

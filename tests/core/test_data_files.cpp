@@ -29,6 +29,7 @@ TEST(DateiLesen, DecodesTheBytesAndLeavesAnAbsentFileBehindEmpty) {
     TempFolder folder;
     folder.write("a.txt", std::string("\xC4pfel\r\nGr\xF6\337e\0\x80\n", 15));
     EXPECT_EQ(DateiLesen(folder / "a.txt"), std::u16string(u"Äpfel\r\nGröße\0€\n", 15));
+    EXPECT_EQ(DateiLesen(folder / "a.txt", 3), u"Äpf"); // the word list's size limit
     EXPECT_EQ(DateiLesen(folder / "DB1.txt"), u"");
     EXPECT_TRUE(fs::is_regular_file(folder / "DB1.txt"));
     EXPECT_EQ(folder.read("DB1.txt"), "");

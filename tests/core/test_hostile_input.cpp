@@ -81,6 +81,10 @@ TEST_F(HostileInput, UnreadableFilesAndFoldersInPlaceOfFilesReadAsEmpty) {
     }
     EXPECT_EQ(search({}).found, 0u);
     EXPECT_TRUE(fs::is_directory(folder / "DB1.txt"));
+    fs::remove(folder / "DB1.txt"); // a dangling link stays dangling: nothing is created
+    fs::create_symlink(folder / "elsewhere.txt", folder / "DB1.txt");
+    EXPECT_EQ(search({}).found, 0u);
+    EXPECT_FALSE(fs::exists(folder / "elsewhere.txt"));
 }
 
 TEST_F(HostileInput, ReadOnlyProgramFolderKeepsTheDefaults) {
