@@ -154,6 +154,13 @@ double numericValue(std::u16string_view text) {
     return negative ? -value : value;
 }
 
+std::optional<double> finiteNumericValue(std::u16string_view text) {
+    const double value = numericValue(text);
+    if (!std::isfinite(value))
+        return std::nullopt;
+    return value;
+}
+
 std::optional<std::int16_t> roundToInt16(double value) {
     // Also false for NaN and infinities.
     if (!(value > -65536.0 && value < 65536.0))

@@ -17,6 +17,10 @@ namespace lettriner {
 // A value too large for a double gives +/-infinity; the result is never NaN.
 [[nodiscard]] double numericValue(std::u16string_view text);
 
+// The numeric value when it fits a double; empty when the conversion
+// overflows, which fails like any other: the target keeps its value.
+[[nodiscard]] std::optional<double> finiteNumericValue(std::u16string_view text);
+
 // Rounds to the nearest integer, halves to the even neighbour (2.5 -> 2,
 // 3.5 -> 4). Empty when the rounded value lies outside -32768..32767 or the
 // input is not finite: the caller then keeps its previous value.

@@ -3,6 +3,7 @@
 #include "data/file_helpers.h"
 #include "data/number_format.h"
 #include "data/numeric_value.h"
+#include "data/text_lines.h"
 
 namespace lettriner {
 
@@ -17,8 +18,11 @@ std::int16_t SettingsLaden(const std::filesystem::path& programFolder) {
         SettingsSpeichern(programFolder, Sprache);
         return Sprache;
     }
-    // A file of nothing but TABs and line ends counts as empty and is left alone.
-    if (text->find_first_not_of(u"\t\r\n") == std::u16string::npos)
+    // A file of nothing but TABs and line ends (CR LF: a lone CR or LF is text)
+    // counts as empty and is left alone.
+    std::u16string rest = replaceAll(*text, kCrLf, u"");
+    std::erase(rest, u'\t');
+    if (rest.empty())
         return Sprache;
     const std::u16string value = SchlüsselWertHolen(u"[Language]", *text);
     if (value.empty()) {

@@ -16,7 +16,8 @@ LetterValueTable letterValuesFromTexts(std::u16string_view letters, std::u16stri
         if (letterLines[i].empty() || i >= valueLines.size())
             continue;
         const unsigned char code = windows1252Code(toUpper(letterLines[i].front()));
-        table.set(code, numericValue(valueLines[i]));
+        if (const std::optional<double> value = finiteNumericValue(valueLines[i]))
+            table.set(code, *value);
     }
     return table;
 }

@@ -66,7 +66,7 @@ void SearchRun::run(const SearchTexts& texts, SearchConnections& connections) {
     bonusFound_ = false;
     found_ = 0;
 
-    const double allowance = numericValue(texts.allowance);
+    const double allowance = finiteNumericValue(texts.allowance).value_or(0.0);
     const std::u16string rack = toUpper(texts.rack);
     const WordTest test(rack, withoutSpaces(toUpper(texts.mandatory)),
                         withoutSpaces(toUpper(texts.forbidden)), allowance);

@@ -112,7 +112,8 @@ TEST_F(HostileInput, EnormousFieldTextsAndEveryCharacterInEveryField) {
     folder.write("DB1.txt", "ABBA\r\nEBBE\r\nAB\r\n");
     const std::u16string huge(100'000, u'A');
     EXPECT_EQ(search({huge, huge, huge, huge}, huge).found, 0u); // A is mandatory and forbidden
-    EXPECT_EQ(search({huge, u"", u"", std::u16string(100'000, u'9')}).found, 4u);
+    // An allowance beyond a double's range fails to convert: 0, only the empty line fits.
+    EXPECT_EQ(search({huge, u"", u"", std::u16string(100'000, u'9')}).found, 1u);
 
     std::string everyByte;
     for (int byte = 1; byte < 256; ++byte)
