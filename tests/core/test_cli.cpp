@@ -66,10 +66,10 @@ protected:
                 result += c == '\'' ? std::string("'\\''") : std::string(1, c);
             return result + "'";
         };
-        std::string command =
-            "cd " + quoted((folder / "data").string()) + " && " + quoted(LETTRINER_CLI);
+        std::string command = "cd ";
+        command += quoted((folder / "data").string()) + " && " + quoted(LETTRINER_CLI);
         for (const std::string& argument : arguments)
-            command += " " + quoted(argument);
+            command.append(" ").append(quoted(argument));
         command += " >../out.txt 2>../err.txt";
         const int status = std::system(command.c_str());
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, folder.read("out.txt"),
