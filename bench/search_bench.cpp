@@ -69,6 +69,13 @@ void BM_Search_allowance3(benchmark::State& state) {
 }
 BENCHMARK(BM_Search_allowance3)->Name("BM_Search/allowance3")->Unit(benchmark::kMillisecond);
 
+void BM_Search_allowance5(benchmark::State& state) {
+    HeadlessFields fields;
+    fields.texts.allowance = u"5";
+    runSearch(state, fields);
+}
+BENCHMARK(BM_Search_allowance5)->Name("BM_Search/allowance5")->Unit(benchmark::kMillisecond);
+
 void BM_Search_bonusHeavy(benchmark::State& state) {
     runSearch(state, {{u"", u"", u"", u"40"}, u"0", u"32767"});
 }

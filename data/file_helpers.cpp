@@ -1,5 +1,6 @@
 #include "data/file_helpers.h"
 
+#include "data/file_contents.h"
 #include "data/text_codec.h"
 #include "data/text_lines.h"
 
@@ -26,31 +27,8 @@ std::FILE* createNew(const fs::path& path) {
 
 std::u16string DateiLesen(const fs::path& Pfad, std::uintmax_t largest) {
     try {
-        std::error_code error;
-        const fs::file_status status = fs::status(Pfad, error);
-        if (status.type() == fs::file_type::not_found) {
-            // Opening for read and write creates a missing file, and the
-            // program has always left that empty file behind.
-            if (std::FILE* created = createNew(Pfad))
-                std::fclose(created);
-            return {};
-        }
-        // Only regular files are read: a FIFO or device would block or never end.
-        if (status.type() != fs::file_type::regular)
-            return {};
-        std::ifstream file(Pfad, std::ios::binary);
-        if (!file)
-            return {};
-        const auto size = std::min(fs::file_size(Pfad, error), largest);
-        if (error)
-            return {};
-        std::string bytes(static_cast<std::size_t>(size), '\0');
-        file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        bytes.resize(static_cast<std::size_t>(file.gcount()));
-        return decodeWindows1252(bytes);
+        return decodeWindows1252(readFileContents(Pfad, largest).bytes());
     } catch (const std::bad_alloc&) {
-        return {};
-    } catch (const fs::filesystem_error&) {
         return {};
     }
 }

@@ -31,6 +31,10 @@ std::u16string decodeWindows1252(std::string_view bytes) {
     return text;
 }
 
+const std::array<char16_t, 256>& windows1252Characters() {
+    return kDecode;
+}
+
 unsigned char windows1252Code(char16_t c) {
     if (c < 0x80 || (c >= 0xA0 && c <= 0xFF))
         return static_cast<unsigned char>(c);

@@ -5,19 +5,19 @@
 #include "data/text_codec.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace lettriner {
 namespace {
 
-// Per-character facts for the first 256 code units, which hold every letter
-// the game knows; rarer characters take the general path.
-struct LatinFacts {
+// Per-byte facts of a list's code page: no casing outside the first 256
+// characters, and every character valued by its Windows-1252 code.
+struct ByteFacts {
     std::array<char16_t, 256> upper{};
     std::array<double, 256> value{};
     std::array<std::int64_t, 256> wholeValue{};
     std::array<std::uint32_t, 256> letterBit{};
+    std::array<std::int8_t, 256> alphabetIndex{};
 };
 
 // Above this, whole values no longer keep every partial sum of a long word
@@ -25,16 +25,18 @@ struct LatinFacts {
 constexpr double kLargestExactValue = 1 << 20;
 constexpr std::size_t kLongestExactWord = std::size_t{1} << 32;
 
-LatinFacts latinFacts(const LetterValueTable& values) {
-    LatinFacts facts;
-    for (unsigned i = 0; i < 256; ++i) {
-        const char16_t upper = toUpper(static_cast<char16_t>(i));
+ByteFacts byteFacts(const CodePage& page, const LetterValueTable& values) {
+    ByteFacts facts;
+    for (unsigned b = 0; b < 256; ++b) {
+        const char16_t c = page[b];
+        const char16_t upper = c < 256 ? toUpper(c) : c;
         const int index = alphabetIndex(upper);
-        facts.upper[i] = upper;
-        facts.value[i] = values[windows1252Code(upper)];
-        facts.wholeValue[i] = static_cast<std::int64_t>(std::clamp(
-            facts.value[i], -kLargestExactValue, kLargestExactValue)); // used only when whole
-        facts.letterBit[i] = index >= 0 ? 1u << index : kOtherBit;
+        facts.upper[b] = upper;
+        facts.value[b] = values[windows1252Code(upper)];
+        facts.wholeValue[b] = static_cast<std::int64_t>(std::clamp(
+            facts.value[b], -kLargestExactValue, kLargestExactValue)); // used only when whole
+        facts.letterBit[b] = index >= 0 ? 1u << index : kOtherBit;
+        facts.alphabetIndex[b] = static_cast<std::int8_t>(index);
     }
     return facts;
 }
@@ -63,51 +65,45 @@ std::uint32_t letterSet(std::u16string_view upperText) {
     return set;
 }
 
-PreparedWords::PreparedWords(const WordDatabase& database, const LetterValueTable& values)
-    : values_(values) {
-    const LatinFacts facts = latinFacts(values);
-    const std::size_t count = database.size();
-    std::size_t total = 0;
-    for (std::size_t i = 0; i < count; ++i)
-        total += database[i].size();
-    text_.resize(total);
-    starts_.reserve(count);
-    entries_.reserve(count);
-
-    const bool whole = wholeValues(values_);
-    std::size_t position = 0;
+PreparedWords::PreparedWords(WordDatabase database, const LetterValueTable& values)
+    : database_(std::move(database)), letterValues_(values), letters_(database_.size()),
+      wordValues_(database_.size()) {
+    const ByteFacts facts = byteFacts(database_.codePage(), values);
+    upper_ = facts.upper;
+    alphabetIndex_ = facts.alphabetIndex;
+    const bool whole = wholeValues(values);
+    const std::size_t count = database_.size();
     for (std::size_t i = 0; i < count; ++i) {
-        const std::u16string_view word = database[i];
+        const std::string_view word = database_.bytes(i);
         std::uint32_t letters = 0;
         double sum = 0.0;
         if (whole && word.size() < kLongestExactWord) {
             std::int64_t wholeSum = 0;
-            for (const char16_t c : word) {
-                const char16_t latin = c < 256 ? c : 0;
-                text_[position++] = c < 256 ? facts.upper[latin] : c;
-                letters |= c < 256 ? facts.letterBit[latin] : kOtherBit;
-                wholeSum += c < 256 ? facts.wholeValue[latin]
-                                    : static_cast<std::int64_t>(values_[windows1252Code(c)]);
+            for (const char byte : word) {
+                const auto b = static_cast<unsigned char>(byte);
+                letters |= facts.letterBit[b];
+                wholeSum += facts.wholeValue[b];
             }
             sum = static_cast<double>(wholeSum);
         } else {
-            for (const char16_t c : word) {
-                if (c < 256) {
-                    text_[position++] = facts.upper[c];
-                    letters |= facts.letterBit[c];
-                    sum += facts.value[c];
-                } else {
-                    text_[position++] = c; // no casing outside the first 256
-                    letters |= kOtherBit;
-                    sum += values_[windows1252Code(c)];
-                }
+            for (const char byte : word) {
+                const auto b = static_cast<unsigned char>(byte);
+                letters |= facts.letterBit[b];
+                sum += facts.value[b];
             }
         }
-        starts_.push_back(position - word.size());
+        letters_[i] = letters;
         // Same sum in the same order as WortBewertung, so the same rounding.
-        entries_.push_back(
-            {letters, static_cast<std::uint32_t>(word.size()), roundToInt16(sum).value_or(0)});
+        wordValues_[i] = roundToInt16(sum).value_or(0);
     }
+}
+
+std::u16string PreparedWords::upper(std::size_t i) const {
+    const std::string_view word = bytes(i);
+    std::u16string text(word.size(), u'\0');
+    for (std::size_t k = 0; k < word.size(); ++k)
+        text[k] = upper_[static_cast<unsigned char>(word[k])];
+    return text;
 }
 
 } // namespace lettriner

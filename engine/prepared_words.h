@@ -1,16 +1,19 @@
 #pragma once
 // The word list made ready for searching, once, after the word list and the
-// letter values are loaded (neither changes afterwards): every word upper-cased,
-// with its length, value and the set of letters it contains, so that testing
-// a word is a few comparisons and allocates nothing.
+// letter values are loaded (neither changes afterwards): for every word the
+// set of letters its upper-cased form contains and its value, in two compact
+// arrays, so that most words are decided from four bytes and none allocates.
+// Per byte of the list, 256-entry tables give the upper-cased character, its
+// letter bit and its value.
 
+#include "data/large_array.h"
 #include "data/word_database.h"
 #include "engine/letter_values.h"
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace lettriner {
 
@@ -18,7 +21,7 @@ namespace lettriner {
 // kOtherBit, and a word with that bit is tested the long way.
 inline constexpr int kAlphabetSize = 30; // A-Z, Ä, Ö, Ü, ß
 inline constexpr std::uint32_t kOtherBit = 1u << kAlphabetSize;
-inline constexpr std::uint32_t kImpossibleBit = 1u << 31; // in no word's letter set
+inline constexpr std::uint32_t kAlphabetBits = kOtherBit - 1;
 
 // Position of an upper-case letter in the alphabet, or -1 for any other character.
 [[nodiscard]] constexpr int alphabetIndex(char16_t c) {
@@ -49,20 +52,34 @@ public:
     };
 
     PreparedWords() = default;
-    PreparedWords(const WordDatabase& database, const LetterValueTable& values);
+    PreparedWords(WordDatabase database, const LetterValueTable& values);
 
-    [[nodiscard]] std::size_t size() const { return entries_.size(); }
-    [[nodiscard]] const Entry& entry(std::size_t i) const { return entries_[i]; }
-    [[nodiscard]] std::u16string_view upper(std::size_t i) const {
-        return std::u16string_view(text_).substr(starts_[i], entries_[i].length);
+    [[nodiscard]] std::size_t size() const { return database_.size(); }
+    [[nodiscard]] Entry entry(std::size_t i) const { return {letters(i), length(i), value(i)}; }
+    [[nodiscard]] std::uint32_t letters(std::size_t i) const { return letters_[i]; }
+    [[nodiscard]] std::uint32_t length(std::size_t i) const { return database_.length(i); }
+    [[nodiscard]] std::int16_t value(std::size_t i) const { return wordValues_[i]; }
+    // The three arrays at once, for loops over many words.
+    [[nodiscard]] const std::uint32_t* letterSets() const { return letters_.data(); }
+    [[nodiscard]] const std::int16_t* wordValues() const { return wordValues_.data(); }
+    [[nodiscard]] const std::uint32_t* entryStarts() const { return database_.entryStarts(); }
+    // The word as stored, and the alphabet index of each of its bytes once
+    // upper-cased (meaningful for words without kOtherBit).
+    [[nodiscard]] std::string_view bytes(std::size_t i) const { return database_.bytes(i); }
+    [[nodiscard]] int alphabetIndexOfByte(char byte) const {
+        return alphabetIndex_[static_cast<unsigned char>(byte)];
     }
-    [[nodiscard]] const LetterValueTable& values() const { return values_; }
+    // The upper-cased word, decoded.
+    [[nodiscard]] std::u16string upper(std::size_t i) const;
+    [[nodiscard]] const LetterValueTable& values() const { return letterValues_; }
 
 private:
-    LetterValueTable values_;
-    std::u16string text_; // all upper-cased words, back to back
-    std::vector<std::size_t> starts_;
-    std::vector<Entry> entries_;
+    WordDatabase database_;
+    LetterValueTable letterValues_;
+    std::array<char16_t, 256> upper_{};
+    std::array<std::int8_t, 256> alphabetIndex_{};
+    LargeArray<std::uint32_t> letters_;
+    LargeArray<std::int16_t> wordValues_;
 };
 
 } // namespace lettriner

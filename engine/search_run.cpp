@@ -6,7 +6,10 @@
 #include "engine/word_test.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <chrono>
+#include <cstring>
 
 namespace lettriner {
 namespace {
@@ -51,6 +54,50 @@ void SearchRun::showProgress(std::int64_t index, std::int64_t lastIndex, double 
     window.setFoundText(foundCountText(found_));
 }
 
+void SearchRun::testWords(const WordTest& test, std::size_t from, std::size_t to,
+                          std::int16_t& minimum, ResultStore& main,
+                          SearchConnections& connections) {
+    // The summary test marks a block of words at a time; a pruning within
+    // the block raises the minimum, which check() then applies. Marks are
+    // read eight at a time: most blocks of a search hold none.
+    constexpr std::size_t kBlock = 512;
+    std::array<std::uint8_t, kBlock> candidates;
+    for (std::size_t block = from; block < to; block += kBlock) {
+        const std::size_t count = std::min(kBlock, to - block);
+        test.markCandidates(words_, block, count, minimum, candidates.data());
+        std::fill(candidates.begin() + static_cast<std::ptrdiff_t>(count),
+                  candidates.begin() + static_cast<std::ptrdiff_t>((count + 7) / 8 * 8), 0);
+        for (std::size_t j = 0; j < count; j += 8) {
+            std::uint64_t eight = 0;
+            std::memcpy(&eight, candidates.data() + j, sizeof eight);
+            while (eight != 0) {
+                // Each mark is 0 or 1, so a byte holds at most its lowest bit.
+                const auto byte = static_cast<std::size_t>(std::countr_zero(eight)) / 8;
+                acceptWord(test, block + j + byte, minimum, main, connections);
+                eight &= eight - 1;
+            }
+        }
+    }
+}
+
+void SearchRun::acceptWord(const WordTest& test, std::size_t i, std::int16_t& minimum,
+                           ResultStore& main, SearchConnections& connections) {
+    const CheckResult result = test.check(words_, i, minimum);
+    if (result == CheckResult::Rejected)
+        return;
+    ++found_;
+    const std::int16_t value = words_.value(i);
+    main.append(static_cast<std::uint32_t>(i), value);
+    if (main.highestIndex() > connections.fieldSize.value()) {
+        SchlechteHälfteLöschen(main, connections.minimumValue);
+        minimum = connections.minimumValue.value();
+    }
+    if (result == CheckResult::AcceptedAsBonus) {
+        bonus_.append(static_cast<std::uint32_t>(i), value);
+        bonusFound_ = true;
+    }
+}
+
 void SearchRun::run(const SearchTexts& texts, SearchConnections& connections) {
     if (running_)
         return;
@@ -73,35 +120,31 @@ void SearchRun::run(const SearchTexts& texts, SearchConnections& connections) {
     window.setSearching(true);
 
     const std::int64_t lastIndex = static_cast<std::int64_t>(words_.size()) - 1;
+    const std::size_t count = words_.size();
     const std::uint32_t yieldEvery = window.yieldEvery();
     std::uint32_t wordsSinceYield = 0;
-    // The minimum value changes only inside a yield or a pruning: read it after each.
+    // The minimum value, the stop request and the progress flag change only
+    // inside a yield or a pruning: they are read after each, not per word.
     std::int16_t minimum = connections.minimumValue.value();
-    for (std::int64_t i = 0; i <= lastIndex; ++i) {
-        if (stopRequested_)
-            break;
-        const auto index = static_cast<std::size_t>(i);
-        const CheckResult result = test.check(words_, index, minimum);
-        if (result != CheckResult::Rejected) {
-            ++found_;
-            const std::int16_t value = words_.entry(index).value;
-            main.append(static_cast<std::uint32_t>(index), value);
-            if (main.highestIndex() > connections.fieldSize.value()) {
-                SchlechteHälfteLöschen(main, connections.minimumValue);
-                minimum = connections.minimumValue.value();
-            }
-            if (result == CheckResult::AcceptedAsBonus) {
-                bonus_.append(static_cast<std::uint32_t>(index), value);
-                bonusFound_ = true;
-            }
-        }
-        if (yieldEvery != 0 && ++wordsSinceYield >= yieldEvery) {
+    std::size_t next = 0; // the first word not yet tested
+    while (next < count && !stopRequested_) {
+        // The words up to the next yield; just one while progress is due,
+        // so that it shows after the word it was asked at.
+        std::size_t end = count;
+        if (yieldEvery != 0)
+            end = std::min<std::size_t>(end, next + (yieldEvery - wordsSinceYield));
+        if (progressDue_)
+            end = std::min(end, next + 1);
+        testWords(test, next, end, minimum, main, connections);
+        wordsSinceYield += static_cast<std::uint32_t>(end - next);
+        next = end;
+        if (yieldEvery != 0 && wordsSinceYield >= yieldEvery) {
             wordsSinceYield = 0;
             window.yield();
             minimum = connections.minimumValue.value();
         }
         if (progressDue_)
-            showProgress(i, lastIndex, startTime, window);
+            showProgress(static_cast<std::int64_t>(next) - 1, lastIndex, startTime, window);
     }
 
     window.loopEnded();

@@ -12,6 +12,7 @@
 #include "engine/prepared_words.h"
 #include "engine/result_list.h"
 #include "engine/result_store.h"
+#include "engine/word_test.h"
 
 #include <cstdint>
 #include <string>
@@ -99,6 +100,12 @@ public:
     [[nodiscard]] const ResultStore& bonusStore() const { return bonus_; }
 
 private:
+    // Tests the words [from, to) and stores the accepted ones.
+    void testWords(const WordTest& test, std::size_t from, std::size_t to, std::int16_t& minimum,
+                   ResultStore& main, SearchConnections& connections);
+    // Tests one candidate and stores it when accepted.
+    void acceptWord(const WordTest& test, std::size_t i, std::int16_t& minimum, ResultStore& main,
+                    SearchConnections& connections);
     void showProgress(std::int64_t index, std::int64_t lastIndex, double startTime,
                       SearchWindow& window);
 

@@ -29,25 +29,71 @@ WordTest::WordTest(std::u16string_view rack, std::u16string_view mandatory,
             rackLetters_ |= 1u << index;
         }
     }
-    mandatoryLetters_ = letterSet(mandatory_);
-    // A mandatory character outside the alphabet rejects every alphabet-only
-    // word: ask for a bit no letter set ever has.
-    if (mandatoryLetters_ & kOtherBit)
-        mandatoryLetters_ = kImpossibleBit;
-    forbiddenLetters_ = letterSet(forbidden_) & ~kOtherBit;
+    missingMask_ = kAlphabetBits & ~rackLetters_;
+    mandatoryLetters_ = letterSet(mandatory_) & kAlphabetBits;
+    mandatoryOutsideAlphabet_ = (letterSet(mandatory_) & kOtherBit) != 0;
+    rejectedLetters_ = letterSet(forbidden_) & kAlphabetBits;
+    if (maxExtra_ == 0)
+        rejectedLetters_ |= missingMask_;
+}
+
+namespace {
+
+// std::popcount in plain shifts and adds, which vectorise without a
+// popcount instruction.
+constexpr std::uint32_t bitCount(std::uint32_t bits) {
+    bits = bits - ((bits >> 1) & 0x55555555u);
+    bits = (bits & 0x33333333u) + ((bits >> 2) & 0x33333333u);
+    bits = (bits + (bits >> 4)) & 0x0F0F0F0Fu;
+    bits += bits >> 8; // no multiply: SSE2 has none for 32-bit lanes
+    return (bits + (bits >> 16)) & 0x3Fu;
+}
+static_assert(bitCount(0) == 0 && bitCount(0xFFFFFFFFu) == 32 && bitCount(0x40000101u) == 3);
+
+} // namespace
+
+// Wider vectors where the processor has them, chosen once at load time.
+#if defined(__x86_64__) && defined(__has_attribute)
+#if __has_attribute(target_clones)
+__attribute__((target_clones("avx2", "default")))
+#endif
+#endif
+void WordTest::markCandidates(const PreparedWords& words, std::size_t from, std::size_t count,
+                              std::int16_t minimum, std::uint8_t* flags) const {
+    // Locals, so that the stores into the flags cannot alias the test's state.
+    const std::uint32_t* __restrict letterSets = words.letterSets() + from;
+    const std::int16_t* __restrict values = words.wordValues() + from;
+    const std::uint32_t* __restrict starts = words.entryStarts() + from;
+    std::uint8_t* __restrict out = flags;
+    const std::uint32_t rejected = rejectedLetters_;
+    const std::uint32_t mandatory = mandatoryLetters_;
+    const std::uint32_t missingMask = missingMask_;
+    const std::uint32_t maxLength = maxLength_;
+    const std::uint32_t maxExtra = maxExtra_;
+    for (std::size_t j = 0; j < count; ++j) {
+        const std::uint32_t letters = letterSets[j];
+        const std::uint32_t length = starts[j + 1] - starts[j] - 2;
+        // Single & on purpose: all five tests, no branch.
+        out[j] = static_cast<std::uint8_t>(((letters & rejected) == 0) &
+                                           ((letters & mandatory) == mandatory) &
+                                           (values[j] >= minimum) & (length <= maxLength) &
+                                           (bitCount(letters & missingMask) <= maxExtra));
+    }
 }
 
 CheckResult WordTest::checkTheLongWay(const PreparedWords& words, std::size_t index,
                                       std::int16_t minimum) const {
+    // Rare (a word with a digit, a hyphen, an accent): decoded and tested literally.
     return WortPrüfen(words.values(), words.upper(index), rack_, mandatory_, forbidden_, allowance_,
                       minimum);
 }
 
-CheckResult WordTest::cover(std::u16string_view upperWord, std::uint32_t length) const {
+CheckResult WordTest::cover(const PreparedWords& words, std::size_t index,
+                            std::uint32_t length) const {
     std::array<std::int32_t, kAlphabetSize> tiles = rackCounts_;
     std::uint32_t extra = 0;
-    for (const char16_t c : upperWord) {
-        if (--tiles[static_cast<std::size_t>(alphabetIndex(c))] < 0)
+    for (const char byte : words.bytes(index)) {
+        if (--tiles[static_cast<std::size_t>(words.alphabetIndexOfByte(byte))] < 0)
             ++extra;
     }
     if (extra > maxExtra_)
