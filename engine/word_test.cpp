@@ -52,33 +52,50 @@ static_assert(bitCount(0) == 0 && bitCount(0xFFFFFFFFu) == 32 && bitCount(0x4000
 
 } // namespace
 
-// Wider vectors where the processor has them, chosen once at load time.
+// Wider vectors where the processor has them, chosen once at load time,
+// while the build itself keeps to the baseline instruction set. Kept to
+// this file: a multiversioned function must not be declared elsewhere.
 #if defined(__x86_64__) && defined(__has_attribute)
 #if __has_attribute(target_clones)
-__attribute__((target_clones("avx2", "default")))
+#define LETTRINER_VECTOR_CLONES __attribute__((target_clones("avx2", "default")))
 #endif
 #endif
-void WordTest::markCandidates(const PreparedWords& words, std::size_t from, std::size_t count,
-                              std::int16_t minimum, std::uint8_t* flags) const {
-    // Locals, so that the stores into the flags cannot alias the test's state.
-    const std::uint32_t* __restrict letterSets = words.letterSets() + from;
-    const std::int16_t* __restrict values = words.wordValues() + from;
-    const std::uint32_t* __restrict starts = words.entryStarts() + from;
-    std::uint8_t* __restrict out = flags;
-    const std::uint32_t rejected = rejectedLetters_;
-    const std::uint32_t mandatory = mandatoryLetters_;
-    const std::uint32_t missingMask = missingMask_;
-    const std::uint32_t maxLength = maxLength_;
-    const std::uint32_t maxExtra = maxExtra_;
+#ifndef LETTRINER_VECTOR_CLONES
+#define LETTRINER_VECTOR_CLONES
+#endif
+
+namespace {
+
+struct Summary {
+    std::uint32_t rejected;
+    std::uint32_t mandatory;
+    std::uint32_t missingMask;
+    std::uint32_t maxLength;
+    std::uint32_t maxExtra;
+};
+
+LETTRINER_VECTOR_CLONES
+void markSummaries(Summary test, const std::uint32_t* __restrict letterSets,
+                   const std::int16_t* __restrict values, const std::uint32_t* __restrict starts,
+                   std::size_t count, std::int16_t minimum, std::uint8_t* __restrict flags) {
     for (std::size_t j = 0; j < count; ++j) {
         const std::uint32_t letters = letterSets[j];
         const std::uint32_t length = starts[j + 1] - starts[j] - 2;
         // Single & on purpose: all five tests, no branch.
-        out[j] = static_cast<std::uint8_t>(((letters & rejected) == 0) &
-                                           ((letters & mandatory) == mandatory) &
-                                           (values[j] >= minimum) & (length <= maxLength) &
-                                           (bitCount(letters & missingMask) <= maxExtra));
+        flags[j] = static_cast<std::uint8_t>(
+            ((letters & test.rejected) == 0) & ((letters & test.mandatory) == test.mandatory) &
+            (values[j] >= minimum) & (length <= test.maxLength) &
+            (bitCount(letters & test.missingMask) <= test.maxExtra));
     }
+}
+
+} // namespace
+
+void WordTest::markCandidates(const PreparedWords& words, std::size_t from, std::size_t count,
+                              std::int16_t minimum, std::uint8_t* flags) const {
+    markSummaries({rejectedLetters_, mandatoryLetters_, missingMask_, maxLength_, maxExtra_},
+                  words.letterSets() + from, words.wordValues() + from, words.entryStarts() + from,
+                  count, minimum, flags);
 }
 
 CheckResult WordTest::checkTheLongWay(const PreparedWords& words, std::size_t index,
