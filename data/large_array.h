@@ -1,24 +1,22 @@
 #pragma once
 // An exact-size array of plain values, left uninitialised for the code that
-// fills it at once: the per-word arrays of a list of millions of words. Large
-// ones are aligned for huge pages and advised to use them, so that filling
-// them costs a few page faults instead of thousands.
+// fills it at once: the per-word arrays of a list of up to millions of words.
+// Its pages are mapped in one go instead of one page fault at a time, and
+// large ones are aligned for huge pages and advised to use them.
 
 #include <cstddef>
-#include <cstdlib>
-#include <memory>
+#include <cstdint>
 #include <new>
 #include <type_traits>
+#include <utility>
 
 namespace lettriner {
 
 namespace large_array_detail {
-inline constexpr std::size_t kHugePage = std::size_t{2} << 20;
-// Asks the system to back [data, data + bytes) with huge pages; a hint only.
-void adviseHugePages(void* data, std::size_t bytes) noexcept;
-struct Free {
-    void operator()(void* data) const noexcept { std::free(data); }
-};
+// Memory for `bytes` bytes (at least one), its pages present; throws
+// std::bad_alloc. `mapped` receives what release() needs.
+[[nodiscard]] void* allocate(std::size_t bytes, std::size_t& mapped);
+void release(void* data, std::size_t mapped) noexcept;
 } // namespace large_array_detail
 
 template <class T> class LargeArray {
@@ -27,33 +25,36 @@ template <class T> class LargeArray {
 public:
     LargeArray() = default;
     explicit LargeArray(std::size_t size) : size_(size) {
-        using namespace large_array_detail;
         if (size > SIZE_MAX / sizeof(T))
             throw std::bad_alloc();
-        const std::size_t bytes = size * sizeof(T);
-        void* data = nullptr;
-        if (bytes >= kHugePage) {
-            const std::size_t rounded = (bytes + kHugePage - 1) / kHugePage * kHugePage;
-            data = std::aligned_alloc(kHugePage, rounded);
-            if (data != nullptr)
-                adviseHugePages(data, rounded);
-        } else {
-            data = std::malloc(bytes == 0 ? 1 : bytes);
-        }
-        if (data == nullptr)
-            throw std::bad_alloc();
-        data_.reset(static_cast<T*>(data));
+        data_ = static_cast<T*>(large_array_detail::allocate(size * sizeof(T), mapped_));
     }
+    LargeArray(LargeArray&& other) noexcept
+        : data_(std::exchange(other.data_, nullptr)), size_(std::exchange(other.size_, 0)),
+          mapped_(std::exchange(other.mapped_, 0)) {}
+    LargeArray& operator=(LargeArray&& other) noexcept {
+        if (this != &other) {
+            large_array_detail::release(data_, mapped_);
+            data_ = std::exchange(other.data_, nullptr);
+            size_ = std::exchange(other.size_, 0);
+            mapped_ = std::exchange(other.mapped_, 0);
+        }
+        return *this;
+    }
+    LargeArray(const LargeArray&) = delete;
+    LargeArray& operator=(const LargeArray&) = delete;
+    ~LargeArray() { large_array_detail::release(data_, mapped_); }
 
     [[nodiscard]] std::size_t size() const { return size_; }
-    [[nodiscard]] T* data() { return data_.get(); }
-    [[nodiscard]] const T* data() const { return data_.get(); }
-    T& operator[](std::size_t i) { return data_.get()[i]; }
-    const T& operator[](std::size_t i) const { return data_.get()[i]; }
+    [[nodiscard]] T* data() { return data_; }
+    [[nodiscard]] const T* data() const { return data_; }
+    T& operator[](std::size_t i) { return data_[i]; }
+    const T& operator[](std::size_t i) const { return data_[i]; }
 
 private:
-    std::unique_ptr<T, large_array_detail::Free> data_;
+    T* data_ = nullptr;
     std::size_t size_ = 0;
+    std::size_t mapped_ = 0;
 };
 
 } // namespace lettriner

@@ -4,10 +4,16 @@
 #include "data/number_format.h"
 #include "data/text_codec.h"
 
+#include <algorithm>
+#include <bit>
 #include <cstring>
 #include <new>
 #include <stdexcept>
 #include <unordered_map>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 namespace lettriner {
 
@@ -17,36 +23,88 @@ struct WordDatabase::Storage {
     // starts[i] is where entry i begins; a last element marks the end as if
     // the text had one more CR LF, so every entry is bounded the same way.
     LargeArray<std::uint32_t> starts;
+    std::size_t entries = 0; // starts holds entries + 1 offsets
 };
 
 namespace {
 
-// Where a CR LF pair ends, for every pair in order; the callback gets the
-// offset just after the LF. memchr finds the rare LF far faster than a loop.
-template <class Visit> void forEachLineEnd(std::string_view text, Visit visit) {
-    const char* const begin = text.data();
-    const char* const end = begin + text.size();
-    const char* p = begin;
-    while (p < end) {
-        const auto* lf = static_cast<const char*>(std::memchr(p, '\n', end - p));
-        if (lf == nullptr)
-            break;
-        if (lf > begin && lf[-1] == '\r')
-            visit(static_cast<std::uint32_t>(lf + 1 - begin));
-        p = lf + 1;
+// Line feeds and carriage returns of 64 bytes as bit masks (bit k: byte k).
+struct LineBytes {
+    std::uint64_t lineFeeds;
+    std::uint64_t returns;
+};
+
+LineBytes lineBytes(const char* block) {
+#if defined(__SSE2__)
+    LineBytes masks{0, 0};
+    const __m128i lf = _mm_set1_epi8('\n');
+    const __m128i cr = _mm_set1_epi8('\r');
+    for (int part = 0; part < 4; ++part) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block + 16 * part));
+        const auto shift = static_cast<unsigned>(16 * part);
+        masks.lineFeeds |= static_cast<std::uint64_t>(static_cast<std::uint32_t>(
+                               _mm_movemask_epi8(_mm_cmpeq_epi8(bytes, lf))))
+                           << shift;
+        masks.returns |= static_cast<std::uint64_t>(static_cast<std::uint32_t>(
+                             _mm_movemask_epi8(_mm_cmpeq_epi8(bytes, cr))))
+                         << shift;
     }
+    return masks;
+#else
+    LineBytes masks{0, 0};
+    for (unsigned k = 0; k < 64; ++k) {
+        masks.lineFeeds |= std::uint64_t{block[k] == '\n'} << k;
+        masks.returns |= std::uint64_t{block[k] == '\r'} << k;
+    }
+    return masks;
+#endif
 }
 
-LargeArray<std::uint32_t> startsOfEntries(std::string_view text) {
+// Where every entry begins, written to `starts` from index 1 on; returns
+// the number of line ends. `starts` needs room for the line ends plus 64:
+// the positions of a block are written eight at a time, before knowing how
+// many there are, which keeps the loop free of unpredictable branches
+// (lines are short: a block of 64 bytes holds about five).
+std::size_t cutAtLineEnds(std::string_view text, std::uint32_t* starts) {
+    const char* const begin = text.data();
+    const std::size_t size = text.size();
+    std::size_t found = 0;
+    std::uint64_t returnBefore = 0; // a CR ending the previous block
+    std::size_t at = 0;
+    for (; at + 64 <= size; at += 64) {
+        const LineBytes masks = lineBytes(begin + at);
+        std::uint64_t ends = masks.lineFeeds & ((masks.returns << 1) | returnBefore);
+        returnBefore = masks.returns >> 63;
+        const auto count = static_cast<std::size_t>(std::popcount(ends));
+        const auto base = static_cast<std::uint32_t>(at + 1);
+        std::uint32_t* out = starts + 1 + found;
+        for (std::size_t k = 0; k < count; k += 8) {
+            for (std::size_t j = 0; j < 8; ++j) {
+                out[k + j] =
+                    base + static_cast<std::uint32_t>(std::countr_zero(ends | (1ull << 63)));
+                ends &= ends - 1;
+            }
+        }
+        found += count;
+    }
+    for (; at < size; ++at) {
+        if (begin[at] == '\n' && at > 0 && begin[at - 1] == '\r')
+            starts[1 + found++] = static_cast<std::uint32_t>(at + 1);
+    }
+    return found;
+}
+
+LargeArray<std::uint32_t> startsOfEntries(std::string_view text, std::size_t& entries) {
+    entries = 0;
     if (text.empty())
         return LargeArray<std::uint32_t>(0);
-    std::size_t lineEnds = 0;
-    forEachLineEnd(text, [&](std::uint32_t) { ++lineEnds; });
-    LargeArray<std::uint32_t> starts(lineEnds + 2);
-    std::size_t next = 0;
-    starts[next++] = 0;
-    forEachLineEnd(text, [&](std::uint32_t start) { starts[next++] = start; });
-    starts[next] = static_cast<std::uint32_t>(text.size() + 2);
+    // Every line end holds a line feed: counting those is one vector pass.
+    const auto lineFeeds = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+    LargeArray<std::uint32_t> starts(lineFeeds + 2 + 64);
+    starts[0] = 0;
+    const std::size_t lineEnds = cutAtLineEnds(text, starts.data());
+    starts[lineEnds + 1] = static_cast<std::uint32_t>(text.size() + 2);
+    entries = lineEnds + 1;
     return starts;
 }
 
@@ -90,7 +148,7 @@ WordDatabase::WordDatabase(FileContents contents) {
     auto storage = std::make_shared<Storage>();
     storage->contents = std::move(contents);
     storage->codePage = windows1252Characters();
-    storage->starts = startsOfEntries(storage->contents.bytes());
+    storage->starts = startsOfEntries(storage->contents.bytes(), storage->entries);
     adopt(std::move(storage));
 }
 
@@ -99,7 +157,7 @@ WordDatabase::WordDatabase(std::u16string_view text) {
     auto storage = std::make_shared<Storage>();
     storage->contents = FileContents(std::move(bytes));
     storage->codePage = page;
-    storage->starts = startsOfEntries(storage->contents.bytes());
+    storage->starts = startsOfEntries(storage->contents.bytes(), storage->entries);
     adopt(std::move(storage));
 }
 
@@ -107,7 +165,7 @@ void WordDatabase::adopt(std::shared_ptr<const Storage> storage) {
     storage_ = std::move(storage);
     text_ = storage_->contents.bytes().data();
     starts_ = storage_->starts.data();
-    size_ = storage_->starts.size() == 0 ? 0 : storage_->starts.size() - 1;
+    size_ = storage_->entries;
 }
 
 std::u16string WordDatabase::operator[](std::size_t index) const {

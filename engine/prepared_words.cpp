@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace lettriner {
 namespace {
@@ -76,7 +77,6 @@ PreparedWords::PreparedWords(WordDatabase database, const LetterValueTable& valu
     for (std::size_t i = 0; i < count; ++i) {
         const std::string_view word = database_.bytes(i);
         std::uint32_t letters = 0;
-        double sum = 0.0;
         if (whole && word.size() < kLongestExactWord) {
             std::int64_t wholeSum = 0;
             for (const char byte : word) {
@@ -84,13 +84,18 @@ PreparedWords::PreparedWords(WordDatabase database, const LetterValueTable& valu
                 letters |= facts.letterBit[b];
                 wholeSum += facts.wholeValue[b];
             }
-            sum = static_cast<double>(wholeSum);
-        } else {
-            for (const char byte : word) {
-                const auto b = static_cast<unsigned char>(byte);
-                letters |= facts.letterBit[b];
-                sum += facts.value[b];
-            }
+            letters_[i] = letters;
+            // A whole sum needs no rounding; outside 16 bits it cannot convert.
+            wordValues_[i] = wholeSum >= INT16_MIN && wholeSum <= INT16_MAX
+                                 ? static_cast<std::int16_t>(wholeSum)
+                                 : std::int16_t{0};
+            continue;
+        }
+        double sum = 0.0;
+        for (const char byte : word) {
+            const auto b = static_cast<unsigned char>(byte);
+            letters |= facts.letterBit[b];
+            sum += facts.value[b];
         }
         letters_[i] = letters;
         // Same sum in the same order as WortBewertung, so the same rounding.

@@ -2,6 +2,7 @@
 # Installs the Debian packages the build needs, when missing.
 #   scripts/setup.sh           what building and running the program needs
 #   scripts/setup.sh --tests   also what the tests, sanitizers and fuzzers need
+#   scripts/setup.sh --bench   also what bench/startup.sh compares against
 set -euo pipefail
 
 packages=(
@@ -14,6 +15,10 @@ packages=(
 if [ "${1:-}" = "--tests" ]; then
     # clang and its runtime for the libFuzzer targets; Xvfb for screenshots.
     packages+=(clang libclang-rt-14-dev xvfb xauth)
+fi
+if [ "${1:-}" = "--bench" ]; then
+    # Whole-process timing, peak memory, and a plain anagram finder to compare with.
+    packages+=(hyperfine time an)
 fi
 
 missing=()

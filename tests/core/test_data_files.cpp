@@ -5,6 +5,7 @@
 #include "data/language_file.h"
 #include "data/settings_file.h"
 #include "data/text_codec.h"
+#include "data/text_lines.h"
 #include "data/utf8.h"
 #include "data/word_database.h"
 #include "engine/letter_values.h"
@@ -14,6 +15,7 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <optional>
+#include <random>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -188,6 +190,25 @@ TEST(DatenbankEinlesen, CutsTheFileAtEveryCrLf) {
             words.emplace_back(list[i]);
         EXPECT_EQ(words, expected) << bytes;
         EXPECT_EQ(list.highestIndex(), static_cast<std::int64_t>(words.size()) - 1);
+    }
+}
+
+// The list is cut 64 bytes at a time: line ends across a block's edge, runs
+// of CR and LF, and the bytes after the last block, against splitAtCrLf.
+TEST(DatenbankEinlesen, CutsLongFilesLikeThePlainSplit) {
+    TempFolder folder;
+    std::mt19937 random(64);
+    for (int round = 0; round < 200; ++round) {
+        std::string bytes(random() % 400, 'a');
+        for (char& byte : bytes)
+            byte = "\r\n\xE4" "a"[random() % 4];
+        folder.write("DB1.txt", bytes);
+        const WordDatabase list = DatenbankEinlesen(folder / "DB1.txt");
+        const std::u16string text = decodeWindows1252(bytes);
+        const std::vector<std::u16string_view> expected = splitAtCrLf(text);
+        ASSERT_EQ(list.size(), expected.size()) << bytes.size();
+        for (std::size_t i = 0; i < list.size(); ++i)
+            ASSERT_EQ(list[i], expected[i]) << "entry " << i << " of " << bytes.size() << " bytes";
     }
 }
 
