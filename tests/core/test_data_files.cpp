@@ -201,8 +201,7 @@ TEST(DatenbankEinlesen, CutsLongFilesLikeThePlainSplit) {
     for (int round = 0; round < 200; ++round) {
         std::string bytes(random() % 400, 'a');
         for (char& byte : bytes)
-            byte = "\r\n\xE4"
-                   "a"[random() % 4];
+            byte = "\r\na\xE4"[random() % 4];
         folder.write("DB1.txt", bytes);
         const WordDatabase list = DatenbankEinlesen(folder / "DB1.txt");
         const std::u16string text = decodeWindows1252(bytes);
