@@ -57,27 +57,9 @@ void SearchRun::showProgress(std::int64_t index, std::int64_t lastIndex, double 
 void SearchRun::testWords(const WordTest& test, std::size_t from, std::size_t to,
                           std::int16_t& minimum, ResultStore& main,
                           SearchConnections& connections) {
-    // The summary test marks a block of words at a time; a pruning within
-    // the block raises the minimum, which check() then applies. Marks are
-    // read eight at a time: most blocks of a search hold none.
-    constexpr std::size_t kBlock = 512;
-    std::array<std::uint8_t, kBlock> candidates;
-    for (std::size_t block = from; block < to; block += kBlock) {
-        const std::size_t count = std::min(kBlock, to - block);
-        test.markCandidates(words_, block, count, minimum, candidates.data());
-        std::fill(candidates.begin() + static_cast<std::ptrdiff_t>(count),
-                  candidates.begin() + static_cast<std::ptrdiff_t>((count + 7) / 8 * 8), 0);
-        for (std::size_t j = 0; j < count; j += 8) {
-            std::uint64_t eight = 0;
-            std::memcpy(&eight, candidates.data() + j, sizeof eight);
-            while (eight != 0) {
-                // Each mark is 0 or 1, so a byte holds at most its lowest bit.
-                const auto byte = static_cast<std::size_t>(std::countr_zero(eight)) / 8;
-                acceptWord(test, block + j + byte, minimum, main, connections);
-                eight &= eight - 1;
-            }
-        }
-    }
+    // A pruning raises the minimum; check() applies it to the rest of a block.
+    forEachCandidate(test.summary(), words_, from, to, minimum,
+                     [&](std::size_t i) { acceptWord(test, i, minimum, main, connections); });
 }
 
 void SearchRun::acceptWord(const WordTest& test, std::size_t i, std::int16_t& minimum,

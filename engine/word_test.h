@@ -6,6 +6,7 @@
 
 #include "engine/prepared_words.h"
 #include "engine/word_check.h"
+#include "engine/word_summary.h"
 
 #include <array>
 #include <cstdint>
@@ -24,7 +25,7 @@ public:
     // Inline: this runs once per word the summary does not reject.
     [[nodiscard]] CheckResult check(const PreparedWords& words, std::size_t index,
                                     std::int16_t minimum) const {
-        if (!passesSummary(words, index, minimum))
+        if (!summary_.passes(words, index, minimum))
             return CheckResult::Rejected;
         if (words.letters(index) & kOtherBit)
             return checkTheLongWay(words, index, minimum);
@@ -35,23 +36,9 @@ public:
         return cover(words, index, words.length(index));
     }
 
-    // For each of the words [from, from + count): 1 when the summary does
-    // not reject it, else 0. No branch: the compiler turns it into vector
-    // instructions, several words at a time.
-    void markCandidates(const PreparedWords& words, std::size_t from, std::size_t count,
-                        std::int16_t minimum, std::uint8_t* flags) const;
+    [[nodiscard]] const WordSummaryTest& summary() const { return summary_; }
 
 private:
-    // What the letter set, value and length of a word can tell, true for
-    // every word, whatever characters it holds: each forbidden letter
-    // rejects it, each mandatory letter must be there, each letter not on
-    // the rack needs at least one extra letter.
-    [[nodiscard]] bool passesSummary(const PreparedWords& words, std::size_t index,
-                                     std::int16_t minimum) const {
-        std::uint8_t flag = 0;
-        markCandidates(words, index, 1, minimum, &flag);
-        return flag != 0;
-    }
     [[nodiscard]] CheckResult checkTheLongWay(const PreparedWords& words, std::size_t index,
                                               std::int16_t minimum) const;
     [[nodiscard]] CheckResult cover(const PreparedWords& words, std::size_t index,
@@ -61,19 +48,10 @@ private:
     std::u16string mandatory_;
     std::u16string forbidden_;
     double allowance_;
-    // Integer forms of the real comparisons, exact for integer lengths and
-    // counts: length <= 2 or length <= rack + allowance; extra letters
-    // rejected when more than zero and more than the allowance.
-    std::uint32_t maxLength_;
     std::uint32_t maxExtra_;
     std::uint32_t rackLength_;
-    std::uint32_t rackLetters_ = 0;
-    std::uint32_t missingMask_ = 0;      // alphabet letters not on the rack
-    std::uint32_t mandatoryLetters_ = 0; // alphabet letters only
     bool mandatoryOutsideAlphabet_ = false;
-    // Letters no accepted word holds, whatever else it holds: the forbidden
-    // ones, and with no extra letter allowed every letter not on the rack.
-    std::uint32_t rejectedLetters_ = 0;
+    WordSummaryTest summary_;
     std::array<std::int32_t, kAlphabetSize> rackCounts_{};
 };
 
