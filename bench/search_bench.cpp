@@ -3,6 +3,7 @@
 
 #include "data/file_helpers.h"
 #include "data/word_database.h"
+#include "engine/board_search.h"
 #include "engine/headless_search.h"
 #include "engine/letter_values.h"
 #include "engine/prepared_words.h"
@@ -10,6 +11,7 @@
 #include "support/literal_selection_sort.h"
 
 #include <benchmark/benchmark.h>
+#include <climits>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -80,6 +82,32 @@ void BM_Search_bonusHeavy(benchmark::State& state) {
     runSearch(state, {{u"", u"", u"", u"40"}, u"0", u"32767"});
 }
 BENCHMARK(BM_Search_bonusHeavy)->Name("BM_Search/bonusHeavy")->Unit(benchmark::kMillisecond);
+
+// The command line's board search on the default fields: blanks lower the
+// summary test's reach (no value bound, more letters may be missing).
+void runBoardSearch(benchmark::State& state, const BoardRules& rules) {
+    const PreparedWords& words = bundledList().words;
+    BoardOutcome outcome;
+    for (auto _ : state) {
+        outcome = searchOnBoard(words, {}, rules);
+        benchmark::DoNotOptimize(outcome.mainRows.size());
+    }
+    state.counters["found"] = static_cast<double>(outcome.found);
+    state.counters["bonus"] = static_cast<double>(outcome.bonusRows.size());
+}
+
+void BM_BoardSearch_blanks(benchmark::State& state) {
+    runBoardSearch(state, {static_cast<int>(state.range(0)), u"", u"", u"", 0, UINT32_MAX});
+}
+BENCHMARK(BM_BoardSearch_blanks)
+    ->Name("BM_BoardSearch/blanks")
+    ->DenseRange(0, 2)
+    ->Unit(benchmark::kMillisecond);
+
+void BM_BoardSearch_pattern(benchmark::State& state) {
+    runBoardSearch(state, {0, u"..S...", u"", u"", 0, UINT32_MAX});
+}
+BENCHMARK(BM_BoardSearch_pattern)->Name("BM_BoardSearch/pattern")->Unit(benchmark::kMillisecond);
 
 // Values in a narrow range, so that most of them tie.
 std::vector<StoreEntry> randomStore(std::size_t size) {

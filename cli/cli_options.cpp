@@ -1,23 +1,97 @@
 #include "cli/cli_options.h"
 
+#include "data/text_case.h"
+#include "data/utf8.h"
+#include "engine/board_test.h"
+#include "engine/prepared_words.h"
+
 #include <array>
+#include <charconv>
 #include <string_view>
 
 namespace lettriner::cli {
 namespace {
 
-struct FieldOption {
+// Stores an option's value into the options; returns an error text, empty when fine.
+using Apply = std::string (*)(Options&, std::string_view name, std::string_view value);
+
+struct ValueOption {
     std::string_view name;
-    std::optional<std::string> Options::*target;
+    Apply apply;
 };
 
-constexpr std::array<FieldOption, 6> kFieldOptions = {{
-    {"--rack", &Options::rack},
-    {"--mandatory", &Options::mandatory},
-    {"--forbidden", &Options::forbidden},
-    {"--extra", &Options::extra},
-    {"--min", &Options::minimum},
-    {"--field-size", &Options::fieldSize},
+std::string quotedText(std::string_view value) {
+    std::string text = "'";
+    text += value;
+    text += "'";
+    return text;
+}
+
+template <std::optional<std::string> Options::*field>
+std::string fieldText(Options& options, std::string_view, std::string_view value) {
+    options.*field = std::string(value);
+    return {};
+}
+
+std::string blanks(Options& options, std::string_view name, std::string_view value) {
+    if (value.size() != 1 || value[0] < '0' || value[0] > '0' + kMostBlanks) {
+        std::string error = "option ";
+        error += name;
+        error += " takes 0, 1 or 2, not ";
+        return error + quotedText(value);
+    }
+    options.blanks = value[0] - '0';
+    return {};
+}
+
+// Upper-cased letters, with '.' too when `dotsAllowed`.
+template <std::u16string Options::*field, bool dotsAllowed>
+std::string letters(Options& options, std::string_view name, std::string_view value) {
+    const std::u16string text = toUpper(fromUtf8(value));
+    for (const char16_t c : text) {
+        if (alphabetIndex(c) < 0 && !(dotsAllowed && c == u'.')) {
+            std::string error = "option ";
+            error += name;
+            error += dotsAllowed ? " takes letters and '.', not " : " takes letters only, not ";
+            return error + quotedText(toUtf8(std::u16string(1, c)));
+        }
+    }
+    if (dotsAllowed && (text.empty() || text.size() > kLongestPattern)) {
+        std::string error = "option ";
+        error += name;
+        return error + " takes 1 to 15 letters and '.'";
+    }
+    options.*field = text;
+    return {};
+}
+
+template <std::optional<std::uint32_t> Options::*field>
+std::string length(Options& options, std::string_view name, std::string_view value) {
+    std::uint32_t number = 0;
+    const auto [end, failure] = std::from_chars(value.data(), value.data() + value.size(), number);
+    if (value.empty() || failure != std::errc() || end != value.data() + value.size()) {
+        std::string error = "option ";
+        error += name;
+        error += " takes a whole number from 0, not ";
+        return error + quotedText(value);
+    }
+    options.*field = number;
+    return {};
+}
+
+constexpr std::array<ValueOption, 12> kValueOptions = {{
+    {"--rack", &fieldText<&Options::rack>},
+    {"--mandatory", &fieldText<&Options::mandatory>},
+    {"--forbidden", &fieldText<&Options::forbidden>},
+    {"--extra", &fieldText<&Options::extra>},
+    {"--min", &fieldText<&Options::minimum>},
+    {"--field-size", &fieldText<&Options::fieldSize>},
+    {"--blanks", &blanks},
+    {"--pattern", &letters<&Options::pattern, true>},
+    {"--starts", &letters<&Options::starts, false>},
+    {"--ends", &letters<&Options::ends, false>},
+    {"--min-length", &length<&Options::minLength>},
+    {"--max-length", &length<&Options::maxLength>},
 }};
 
 } // namespace
@@ -27,8 +101,12 @@ ParseResult parseOptions(const std::vector<std::string>& arguments) {
     Options& options = result.options;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string_view argument = arguments[i];
-        if (argument == "--tsv") {
-            options.tsv = true;
+        if (argument == "--tsv" || argument == "--json") {
+            (argument == "--tsv" ? options.tsv : options.json) = true;
+            if (options.tsv && options.json) {
+                result.error = "options --tsv and --json exclude each other";
+                return result;
+            }
             continue;
         }
         if (argument == "--help" || argument == "-h") {
@@ -37,6 +115,16 @@ ParseResult parseOptions(const std::vector<std::string>& arguments) {
         }
         if (argument == "--version") {
             options.version = true;
+            continue;
+        }
+        if (argument == "--check") {
+            const std::size_t first = i + 1;
+            while (i + 1 < arguments.size() && !arguments[i + 1].starts_with("-"))
+                options.checkWords.push_back(arguments[++i]);
+            if (i + 1 == first) {
+                result.error = "option --check needs a word";
+                return result;
+            }
             continue;
         }
         if (argument.starts_with("-C")) {
@@ -51,21 +139,25 @@ ParseResult parseOptions(const std::vector<std::string>& arguments) {
             continue;
         }
         bool matched = false;
-        for (const FieldOption& field : kFieldOptions) {
-            if (argument == field.name) {
+        for (const ValueOption& option : kValueOptions) {
+            std::string_view value;
+            if (argument == option.name) {
                 if (i + 1 >= arguments.size()) {
-                    result.error = "option " + std::string(field.name) + " needs a text";
+                    result.error = "option " + std::string(option.name) + " needs a text";
                     return result;
                 }
-                options.*field.target = arguments[++i];
-                matched = true;
-            } else if (argument.starts_with(field.name) && argument.size() > field.name.size() &&
-                       argument[field.name.size()] == '=') {
-                options.*field.target = std::string(argument.substr(field.name.size() + 1));
-                matched = true;
+                value = arguments[++i];
+            } else if (argument.starts_with(option.name) && argument.size() > option.name.size() &&
+                       argument[option.name.size()] == '=') {
+                value = argument.substr(option.name.size() + 1);
+            } else {
+                continue;
             }
-            if (matched)
-                break;
+            result.error = option.apply(options, option.name, value);
+            if (!result.error.empty())
+                return result;
+            matched = true;
+            break;
         }
         if (!matched) {
             result.error = argument.starts_with("-")
@@ -90,14 +182,31 @@ std::string usageText() {
            "  --min TEXT         minimum word value (default 5)\n"
            "  --field-size TEXT  result field size (default 500)\n"
            "\n"
+           "Blanks and the board:\n"
+           "  --blanks N         N blank tiles (0, 1 or 2) besides the rack. A blank stands\n"
+           "                     for the cheapest letter the rack lacks (never ß) and\n"
+           "                     scores 0; the column Blanko shows what the blanks stand\n"
+           "                     for. Bonus words use every tile, the blanks included\n"
+           "  --pattern P        the word's exact length, with the letters lying on the\n"
+           "                     board and '.' for any other: ..S.E is five letters, S\n"
+           "                     third, E fifth. Pattern letters take no tile and do not\n"
+           "                     count against --extra\n"
+           "  --starts TEXT      only words beginning with TEXT\n"
+           "  --ends TEXT        only words ending with TEXT\n"
+           "  --min-length N     only words of at least N letters\n"
+           "  --max-length N     only words of at most N letters\n"
+           "\n"
+           "  --check WORD...    tells for each WORD whether it is in the word list\n"
+           "                     (STRASSE also finds STRAßE), with its value\n"
            "  -C DIR             change to DIR first\n"
            "  --tsv              tab-separated output for scripts\n"
+           "  --json             JSON output for scripts\n"
            "  -h, --help         show this help and exit\n"
            "      --version      show the version and exit\n"
            "\n"
            "Options also take the form --rack=TEXT. A number out of range leaves the\n"
            "field's default value in force. Exit status: 0 on success, 1 when the folder\n"
-           "cannot be entered, 2 on a usage error.\n";
+           "cannot be entered or a checked word is not in the list, 2 on a usage error.\n";
 }
 
 } // namespace lettriner::cli

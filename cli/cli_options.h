@@ -1,7 +1,9 @@
 #pragma once
 // Command-line options of lettriner-cli. Each field option carries the raw
-// text of the matching input field, as if typed into it after start-up.
+// text of the matching input field, as if typed into it after start-up; the
+// board options are checked here, so a run gets only valid ones.
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,9 +18,24 @@ struct Options {
     std::optional<std::string> minimum;
     std::optional<std::string> fieldSize;
     std::optional<std::string> directory; // -C
+    // Board options, upper-cased; unset or empty when not given.
+    std::optional<int> blanks;
+    std::u16string pattern;
+    std::u16string starts;
+    std::u16string ends;
+    std::optional<std::uint32_t> minLength;
+    std::optional<std::uint32_t> maxLength;
+    std::vector<std::string> checkWords; // --check
     bool tsv = false;
+    bool json = false;
     bool help = false;
     bool version = false;
+
+    // Any board option given: the search then runs with them.
+    [[nodiscard]] bool onBoard() const {
+        return blanks || !pattern.empty() || !starts.empty() || !ends.empty() || minLength ||
+               maxLength;
+    }
 };
 
 struct ParseResult {
@@ -26,8 +43,9 @@ struct ParseResult {
     std::string error; // non-empty: a usage error, to be reported with exit code 2
 };
 
-// Accepts "--rack TEXT" and "--rack=TEXT" (likewise for every field option),
-// "-C DIR", "-CDIR", "--tsv", "--help", "-h" and "--version".
+// Accepts "--rack TEXT" and "--rack=TEXT" (likewise for every option with a
+// value), "-C DIR", "-CDIR", "--check WORD...", "--tsv", "--json", "--help",
+// "-h" and "--version".
 [[nodiscard]] ParseResult parseOptions(const std::vector<std::string>& arguments);
 
 [[nodiscard]] std::string usageText();

@@ -5,19 +5,42 @@
 #include "data/text_case.h"
 #include "data/utf8.h"
 #include "data/word_database.h"
+#include "engine/board_search.h"
 #include "engine/headless_search.h"
 #include "engine/letter_values.h"
 #include "engine/prepared_words.h"
+#include "engine/word_lookup.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <iostream>
+#include <string>
 #include <system_error>
+#include <vector>
 
 namespace {
 
 std::u16string fieldText(const std::optional<std::string>& option, std::u16string_view fallback) {
     return option ? lettriner::fromUtf8(*option) : std::u16string(fallback);
+}
+
+lettriner::BoardRules boardRules(const lettriner::cli::Options& options) {
+    lettriner::BoardRules rules;
+    rules.blanks = options.blanks.value_or(0);
+    rules.pattern = options.pattern;
+    rules.starts = options.starts;
+    rules.ends = options.ends;
+    rules.minLength = options.minLength.value_or(0);
+    rules.maxLength = options.maxLength.value_or(UINT32_MAX);
+    return rules;
+}
+
+// True when all of it reached standard output.
+bool write(const std::string& text) {
+    std::fwrite(text.data(), 1, text.size(), stdout);
+    return std::fflush(stdout) == 0 && !std::ferror(stdout);
 }
 
 } // namespace
@@ -51,6 +74,18 @@ int main(int argc, char** argv) {
 
     const WordDatabase database = DatenbankEinlesen("DB1.txt");
     const PreparedWords words(database, BewertungsFeldLaden());
+    const cli::Format format = options.json  ? cli::Format::Json
+                               : options.tsv ? cli::Format::Tsv
+                                             : cli::Format::Table;
+    if (!options.checkWords.empty()) {
+        std::vector<std::u16string> asked;
+        for (const std::string& word : options.checkWords)
+            asked.push_back(fromUtf8(word));
+        const std::vector<LookupResult> results = lookUpWords(words, asked);
+        const bool allFound = std::all_of(results.begin(), results.end(),
+                                          [](const LookupResult& result) { return result.found; });
+        return write(cli::checkText(results, format)) && allFound ? 0 : 1;
+    }
 
     HeadlessFields fields;
     fields.texts = {toUpper(fieldText(options.rack, SearchDefaults::rack)),
@@ -59,8 +94,17 @@ int main(int argc, char** argv) {
                     fieldText(options.extra, SearchDefaults::allowance)};
     fields.minimum = fieldText(options.minimum, SearchDefaults::minimum);
     fields.fieldSize = fieldText(options.fieldSize, SearchDefaults::fieldSize);
-    const HeadlessOutcome outcome = searchWithoutWindow(words, fields);
-    const std::string text = options.tsv ? cli::tsvText(outcome) : cli::tableText(outcome);
-    std::fwrite(text.data(), 1, text.size(), stdout);
-    return std::fflush(stdout) == 0 ? 0 : 1;
+    const cli::Report report =
+        options.onBoard() ? cli::reportOf(searchOnBoard(words, fields, boardRules(options)),
+                                          options.blanks.has_value())
+                          : cli::reportOf(searchWithoutWindow(words, fields));
+    switch (format) {
+    case cli::Format::Json:
+        return write(cli::jsonText(report)) ? 0 : 1;
+    case cli::Format::Tsv:
+        return write(cli::tsvText(report)) ? 0 : 1;
+    case cli::Format::Table:
+        break;
+    }
+    return write(cli::tableText(report)) ? 0 : 1;
 }

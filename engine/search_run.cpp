@@ -32,6 +32,12 @@ private:
 
 } // namespace
 
+LetterRules letterRulesOf(const SearchTexts& texts) {
+    return {toUpper(texts.rack), withoutSpaces(toUpper(texts.mandatory)),
+            withoutSpaces(toUpper(texts.forbidden)),
+            finiteNumericValue(texts.allowance).value_or(0.0)};
+}
+
 double SearchWindow::secondsSinceMidnight() const {
     using namespace std::chrono;
     const auto now = system_clock::now();
@@ -95,10 +101,9 @@ void SearchRun::run(const SearchTexts& texts, SearchConnections& connections) {
     bonusFound_ = false;
     found_ = 0;
 
-    const double allowance = finiteNumericValue(texts.allowance).value_or(0.0);
-    const std::u16string rack = toUpper(texts.rack);
-    const WordTest test(rack, withoutSpaces(toUpper(texts.mandatory)),
-                        withoutSpaces(toUpper(texts.forbidden)), allowance);
+    const LetterRules rules = letterRulesOf(texts);
+    const std::u16string& rack = rules.rack;
+    const WordTest test(rack, rules.mandatory, rules.forbidden, rules.allowance);
     window.setSearching(true);
 
     const std::int64_t lastIndex = static_cast<std::int64_t>(words_.size()) - 1;

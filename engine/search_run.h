@@ -38,6 +38,18 @@ struct SearchTexts {
     std::u16string allowance{SearchDefaults::allowance};
 };
 
+// What the letter test takes from those texts: rack, mandatory and forbidden
+// upper-cased, the last two without spaces; the allowance as a number, 0
+// when the text has none.
+struct LetterRules {
+    std::u16string rack;
+    std::u16string mandatory;
+    std::u16string forbidden;
+    double allowance = 0.0;
+};
+
+[[nodiscard]] LetterRules letterRulesOf(const SearchTexts& texts);
+
 // Everything a run shows or asks outside itself. Every hook does nothing by
 // default, so a run without a window (command line, tests) overrides none.
 class SearchWindow {

@@ -1,6 +1,16 @@
 #include "engine/word_summary.h"
 
+#include <cmath>
+
 namespace lettriner {
+
+std::uint32_t wholeBound(double bound, std::uint32_t floorValue) {
+    if (!(bound >= static_cast<double>(floorValue)))
+        return floorValue;
+    if (bound >= 4294967295.0)
+        return UINT32_MAX;
+    return static_cast<std::uint32_t>(std::floor(bound));
+}
 
 namespace {
 

@@ -34,6 +34,11 @@ struct WordSummaryTest {
     }
 };
 
+// The largest whole number not above `bound`, clamped to [floorValue,
+// UINT32_MAX]; a bound that is not a number gives floorValue. Turns a real
+// comparison of a whole count into an integer one.
+[[nodiscard]] std::uint32_t wholeBound(double bound, std::uint32_t floorValue);
+
 // Calls visit(index) for every word of [from, to) that passes, in order.
 // `minimum` is read anew for each block, so a visit may raise it.
 template <class Visit>
@@ -46,16 +51,22 @@ void forEachCandidate(const WordSummaryTest& test, const PreparedWords& words, s
         test.mark(words, block, count, minimum, marks.data());
         std::fill(marks.begin() + static_cast<std::ptrdiff_t>(count),
                   marks.begin() + static_cast<std::ptrdiff_t>((count + 7) / 8 * 8), 0);
-        // Eight marks at a time: most blocks of a search hold none.
-        for (std::size_t j = 0; j < count; j += 8) {
-            std::uint64_t eight = 0;
-            std::memcpy(&eight, marks.data() + j, sizeof eight);
-            while (eight != 0) {
-                // Each mark is 0 or 1, so a byte holds at most its lowest bit.
-                visit(block + j + static_cast<std::size_t>(std::countr_zero(eight)) / 8);
-                eight &= eight - 1;
+        // Eight marks at a time: most blocks of a search hold none. The
+        // first pass asks for the marked words' bytes, which lie scattered
+        // over the list, so that the visits do not wait for them one by one.
+        const auto forEachMarked = [&](auto action) {
+            for (std::size_t j = 0; j < count; j += 8) {
+                std::uint64_t eight = 0;
+                std::memcpy(&eight, marks.data() + j, sizeof eight);
+                while (eight != 0) {
+                    // Each mark is 0 or 1, so a byte holds at most its lowest bit.
+                    action(block + j + static_cast<std::size_t>(std::countr_zero(eight)) / 8);
+                    eight &= eight - 1;
+                }
             }
-        }
+        };
+        forEachMarked([&](std::size_t i) { __builtin_prefetch(words.bytes(i).data()); });
+        forEachMarked(visit);
     }
 }
 

@@ -1,21 +1,8 @@
 #include "engine/word_test.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace lettriner {
-namespace {
-
-// The largest whole number not above `bound`, clamped to [floor, UINT32_MAX].
-std::uint32_t wholeBound(double bound, std::uint32_t floorValue) {
-    if (!(bound >= static_cast<double>(floorValue)))
-        return floorValue;
-    if (bound >= 4294967295.0)
-        return 0xFFFFFFFFu;
-    return static_cast<std::uint32_t>(std::floor(bound));
-}
-
-} // namespace
 
 WordTest::WordTest(std::u16string_view rack, std::u16string_view mandatory,
                    std::u16string_view forbidden, double allowance)

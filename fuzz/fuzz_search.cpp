@@ -3,11 +3,16 @@
 // - the fast per-word test gives what the literal letter test gives;
 // - the fast sort gives the literal selection sort's permutation;
 // - both lists come out best first, the main list within the field size;
-// - every listed word passes the letter test, every bonus word as a bonus word.
+// - every listed word passes the letter test, every bonus word as a bonus word;
+// - with blanks and a board pattern (three more pieces) the prepared board
+//   test decides like its character-wise form, and without them the board
+//   search gives exactly the window's search.
 
+#include "data/number_format.h"
 #include "data/numeric_value.h"
 #include "data/text_case.h"
 #include "data/word_database.h"
+#include "engine/board_search.h"
 #include "engine/headless_search.h"
 #include "engine/letter_values.h"
 #include "engine/prepared_words.h"
@@ -22,11 +27,6 @@ namespace {
 
 using namespace lettriner;
 
-std::u16string withoutSpaces(std::u16string text) {
-    std::erase(text, u' ');
-    return text;
-}
-
 void checkSortedBestFirst(const MemoryResultList& list) {
     for (std::size_t i = 1; i < list.rows().size(); ++i) {
         if (numericValue(list.rows()[i - 1][2]) < numericValue(list.rows()[i][2]))
@@ -34,22 +34,81 @@ void checkSortedBestFirst(const MemoryResultList& list) {
     }
 }
 
+// Blanks, lengths and pattern from one piece, starts and ends from two more.
+BoardRules boardRules(const std::u16string& spec, const std::u16string& starts,
+                      const std::u16string& ends) {
+    BoardRules rules;
+    rules.blanks = spec.size() > 0 ? spec[0] % (kMostBlanks + 1) : 0;
+    rules.minLength = spec.size() > 1 ? spec[1] % 8u : 0u;
+    rules.maxLength = spec.size() > 2 && spec[2] % 2 == 0 ? spec[2] % 20u : UINT32_MAX;
+    rules.pattern = spec.size() > 3 ? toUpper(spec.substr(3)) : u"";
+    rules.starts = toUpper(starts);
+    rules.ends = toUpper(ends);
+    return rules;
+}
+
+BoardVerdict preparedVerdict(const BoardTest& test, const PreparedWords& words, std::size_t i,
+                             std::int16_t minimum) {
+    const std::int16_t bound = test.summaryBoundsValue() ? minimum : INT16_MIN;
+    return test.summary().passes(words, i, bound) ? test.check(words, i, minimum) : BoardVerdict{};
+}
+
+void checkBoardSearch(const PreparedWords& words, const HeadlessFields& fields,
+                      const BoardRules& rules, const BoardTest& test,
+                      const HeadlessOutcome& plain) {
+    const BoardOutcome outcome = searchOnBoard(words, fields, rules);
+    for (std::size_t i = 1; i < outcome.mainRows.size(); ++i) {
+        if (outcome.mainRows[i - 1].value < outcome.mainRows[i].value)
+            fuzz::fail("the board list is not sorted best first");
+    }
+    for (const BoardRow& row : outcome.mainRows) {
+        if (test.judge(row.word, INT16_MIN).value != row.value)
+            fuzz::fail("a board word is listed with another value than its test gives");
+    }
+    for (const BoardRow& row : outcome.bonusRows) {
+        if (test.judge(row.word, INT16_MIN).result != CheckResult::AcceptedAsBonus)
+            fuzz::fail("a board bonus word does not use every tile and blank");
+    }
+    if (rules.blanks != 0 || !rules.pattern.empty() || !rules.starts.empty() ||
+        !rules.ends.empty() || rules.minLength != 0 || rules.maxLength != UINT32_MAX)
+        return;
+    const auto sameRows = [](const MemoryResultList& list, const std::vector<BoardRow>& rows) {
+        if (list.rows().size() != rows.size())
+            return false;
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            const MemoryResultList::Row& cells = list.rows()[i];
+            if (cells[0] != rows[i].word || cells[2] != decimalText(rows[i].value) ||
+                cells[3] != rows[i].letters.needed || cells[4] != rows[i].letters.leftOver)
+                return false;
+        }
+        return true;
+    };
+    if (!sameRows(plain.mainList, outcome.mainRows) ||
+        !sameRows(plain.bonusList, outcome.bonusRows) || plain.found != outcome.found ||
+        plain.bonusShown != outcome.bonusShown || plain.minimumText != outcome.minimumText)
+        fuzz::fail("without blanks or board the board search differs from the window's");
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const auto texts = fuzz::pieces(data, size, 9);
+    const auto texts = fuzz::pieces(data, size, 12);
     const WordDatabase database(texts[0]);
     const LetterValueTable values = letterValuesFromTexts(texts[1], texts[2]);
     const PreparedWords words(database, values);
     const SearchTexts search{texts[3], texts[4], texts[5], texts[6]};
 
-    const std::u16string rack = toUpper(search.rack);
-    const std::u16string mandatory = withoutSpaces(toUpper(search.mandatory));
-    const std::u16string forbidden = withoutSpaces(toUpper(search.forbidden));
-    const double allowance = numericValue(search.allowance);
+    const LetterRules letters = letterRulesOf(search);
+    const std::u16string& rack = letters.rack;
+    const std::u16string& mandatory = letters.mandatory;
+    const std::u16string& forbidden = letters.forbidden;
+    const double allowance = letters.allowance;
     const std::int16_t probeMinimum = textToInt16(texts[7]).value_or(0);
 
     const WordTest test(rack, mandatory, forbidden, allowance);
+    const BoardRules rules = boardRules(texts[9], texts[10], texts[11]);
+    const BoardTest board(values, rack, mandatory, forbidden, allowance, rules);
+    const BoardTest plainBoard(values, rack, mandatory, forbidden, allowance, {});
     std::vector<StoreEntry> store;
     for (std::size_t i = 0; i < words.size(); ++i) {
         const CheckResult fast = test.check(words, i, probeMinimum);
@@ -57,6 +116,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                                                forbidden, allowance, probeMinimum);
         if (fast != literal)
             fuzz::fail("the fast letter test differs from the literal one");
+        const std::u16string upper = toUpper(database[i]);
+        const BoardVerdict judged = board.judge(upper, probeMinimum);
+        if (preparedVerdict(board, words, i, probeMinimum) != judged)
+            fuzz::fail("the prepared board test differs from the character-wise one");
+        const BoardVerdict plain = plainBoard.judge(upper, probeMinimum);
+        if (plain.result != literal || preparedVerdict(plainBoard, words, i, probeMinimum) != plain)
+            fuzz::fail("without blanks or board the board test differs from the letter test");
         store.push_back({static_cast<std::uint32_t>(i), words.entry(i).value});
     }
     std::vector<StoreEntry> expected = store;
@@ -65,7 +131,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (store != expected)
         fuzz::fail("the fast sort differs from the literal selection sort");
 
-    const HeadlessOutcome outcome = searchWithoutWindow(words, {search, texts[7], texts[8]});
+    const HeadlessFields fields{search, texts[7], texts[8]};
+    const HeadlessOutcome outcome = searchWithoutWindow(words, fields);
+    checkBoardSearch(words, fields, rules, board, outcome);
     KeptNumberField fieldSize{std::u16string(SearchDefaults::fieldSize)};
     fieldSize.setText(texts[8]);
     const std::int16_t fieldSizeValue = fieldSize.value();

@@ -8,7 +8,7 @@ set -euo pipefail
 packages=(
     cmake g++ make
     qt6-base-dev qt6-svg-dev qt6-qpa-plugins
-    libgtest-dev libgmock-dev libbenchmark-dev
+    libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev
     wngerman
     fonts-dejavu-core
 )

@@ -31,9 +31,40 @@ TEST(ParseOptions, ReadsEveryFormOfEveryOptionAndRejectsTheRest) {
         {{"--tsv", "AFEE"}, "unexpected argument AFEE"},
         {{"--help", "--nope"}, "unknown option --nope"},
         {{""}, "unexpected argument "},
-        {{"=x"}, "unexpected argument =x"}};
+        {{"=x"}, "unexpected argument =x"},
+        {{"--blanks=3"}, "option --blanks takes 0, 1 or 2, not '3'"},
+        {{"--blanks", "-1"}, "option --blanks takes 0, 1 or 2, not '-1'"},
+        {{"--blanks="}, "option --blanks takes 0, 1 or 2, not ''"},
+        {{"--pattern=a-b"}, "option --pattern takes letters and '.', not '-'"},
+        {{"--pattern="}, "option --pattern takes 1 to 15 letters and '.'"},
+        {{"--pattern", "................"}, "option --pattern takes 1 to 15 letters and '.'"},
+        {{"--starts=e."}, "option --starts takes letters only, not '.'"},
+        {{"--ends=\xC3\xA9"}, "option --ends takes letters only, not '\xC3\xA9'"},
+        {{"--min-length=-1"}, "option --min-length takes a whole number from 0, not '-1'"},
+        {{"--max-length=4x"}, "option --max-length takes a whole number from 0, not '4x'"},
+        {{"--max-length=99999999999"},
+         "option --max-length takes a whole number from 0, not '99999999999'"},
+        {{"--check", "--tsv"}, "option --check needs a word"},
+        {{"--json", "--tsv"}, "options --tsv and --json exclude each other"}};
     for (const auto& [arguments, error] : bad)
         EXPECT_EQ(parseOptions(arguments).error, error);
+}
+
+TEST(ParseOptions, BoardOptionsAreUpperCasedAndCheckTakesTheFollowingWords) {
+    const ParseResult parsed =
+        parseOptions({"--blanks=2", "--pattern", "..s\xC3\xA4\xC3\x9F", "--starts=ab", "--ends",
+                      "\xC3\xBC", "--min-length=0", "--max-length", "15", "--check", "tee",
+                      "Stra\xC3\x9F"
+                      "e",
+                      "--json"});
+    const Options& o = parsed.options;
+    EXPECT_EQ(parsed.error, "");
+    EXPECT_EQ(std::tie(o.blanks, o.pattern, o.starts, o.ends, o.minLength, o.maxLength),
+              std::make_tuple(2, u"..SÄß", u"AB", u"Ü", 0u, 15u));
+    EXPECT_EQ(o.checkWords, (std::vector<std::string>{"tee", "Stra\xC3\x9F"
+                                                             "e"}));
+    EXPECT_TRUE(o.json && o.onBoard());
+    EXPECT_FALSE(parseOptions({"--rack=x", "--tsv"}).options.onBoard());
 }
 
 // Letters with a fraction (T) and a negative value (S); the word list has a
@@ -99,6 +130,47 @@ TEST_F(Cli, PrintsTheExactResultAsTsv) {
     }
 }
 
+TEST_F(Cli, BlanksAddTheirColumnAndLowerTheValue) {
+    // TEE: a blank for the second E (2.5, rounded to even); FE: for the F;
+    // TEST: for the second T, and every tile and the blank used: a bonus word.
+    const CliRun run = runCli({"--tsv", "--rack=tes", "--blanks=1", "--forbidden=", "--min=0"});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(run.out, "main\t5\nTEE\t3\t2\t\ts\te\nFE\t2\t1\t\tts\tf\nTEST\t4\t0\t\t\tt\n"
+                       "\t0\t0\t\ttes\t\n\t0\t0\t\ttes\t\nbonus\t1\nTEST\t4\t0\t\t\tt\n"
+                       "found\t5\nmin\t0\n");
+}
+
+TEST_F(Cli, JsonCarriesTheSameResult) {
+    const CliRun run = runCli({"--json", "--rack=br", "--blanks", "1", "--starts=B", "--min=0"});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    const std::string bar = "    {\n      \"word\": \"BAR\",\n      \"length\": 3,\n"
+                            "      \"value\": 4,\n      \"needed\": \"\",\n"
+                            "      \"left_over\": \"\",\n      \"blanks\": \"a\"\n    }\n";
+    EXPECT_EQ(run.out, "{\n  \"main\": [\n" + bar + "  ],\n  \"bonus\": [\n" + bar +
+                           "  ],\n  \"found\": 1,\n  \"min\": \"0\"\n}\n");
+}
+
+TEST_F(Cli, CheckSaysWhetherEachWordIsListedAndExitsOneWhenOneIsNot) {
+    const std::tuple<std::vector<std::string>, int, std::string> cases[] = {
+        {{"--check", "tee", "hafer"},
+         0,
+         "Wort   In der Wortliste  Wortwert\nTEE    ja                       4\n"
+         "HAFER  ja                       9\n"},
+        {{"--tsv", "--check",
+          "Stra\xC3\x9F"
+          "e",
+          "fee"},
+         1,
+         "check\t2\nSTRA\xC3\x9F"
+         "E\tnein\t2\nFEE\tja\t6\n"},
+    };
+    for (const auto& [arguments, exitCode, out] : cases) {
+        const CliRun run = runCli(arguments);
+        EXPECT_EQ(run.exitCode, exitCode) << run.err;
+        EXPECT_EQ(run.out, out);
+    }
+}
+
 TEST_F(Cli, PrintsAnAlignedTableWithTheBonusWordsBelow) {
     folder.write("data/DB1.txt", "Tee\r\na\tb\r\nFe\r\nZebra");
     const CliRun run = runCli({"--rack", "tee", "--extra=3", "--min=4"});
@@ -127,6 +199,7 @@ TEST_F(Cli, ExitCodesAndMessages) {
         {{"--version"}, 0, "lettriner-cli " LETTRINER_VERSION "\n", ""},
         {{"--bogus"}, 2, "", "unknown option --bogus"},
         {{"--rack"}, 2, "", "option --rack needs a text\nTry 'lettriner-cli --help'"},
+        {{"--pattern", "a-b"}, 2, "", "option --pattern takes letters and '.', not '-'\nTry"},
         {{"-C", "/nonexistent/lettriner-test-folder"}, 1, "", "cannot change to"},
     };
     for (const auto& [arguments, exitCode, outStart, errPart] : cases) {

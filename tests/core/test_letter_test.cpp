@@ -1,11 +1,13 @@
 // The letter test: the literal WortPrüfen case by case, the prepared fast
-// test against it (the same table, then random lists), prepared values
-// against WortBewertung, and the two letter columns.
+// test against it (the same table, then random lists, where the board test
+// with blanks and patterns is also held to its character-wise form),
+// prepared values against WortBewertung, and the two letter columns.
 
 #include "data/text_case.h"
 #include "data/text_codec.h"
 #include "data/utf8.h"
 #include "data/word_database.h"
+#include "engine/board_test.h"
 #include "engine/prepared_words.h"
 #include "engine/word_check.h"
 #include "engine/word_test.h"
@@ -158,6 +160,7 @@ TEST(LetterTest, FastTestDecidesLikeTheLiteralOneOnRandomInput) {
         game.set(windows1252Code(letter), value);
     RandomTexts random(20261122);
     int outcomes[3] = {};
+    int boardOutcomes[3] = {};
     for (int round = 0; round < 400; ++round) {
         LetterValueTable values = game;
         if (round % 4 == 0) {
@@ -178,6 +181,24 @@ TEST(LetterTest, FastTestDecidesLikeTheLiteralOneOnRandomInput) {
         for (int n = 0; n < 50; ++n)
             list.push_back(random.word(rack));
         const PreparedWords words(WordDatabase(joinedLines(list)), values);
+        // Blanks and a board: a pattern, start or end cut from a listed word.
+        const std::u16string sample = toUpper(list[random.below(list.size())]);
+        BoardRules rules{static_cast<int>(random.below(3)), u"", u"", u"", 0, UINT32_MAX};
+        if (random.below(3) == 0) {
+            rules.pattern = sample.substr(0, kLongestPattern + 1);
+            for (char16_t& c : rules.pattern)
+                c = random.below(2) == 0 ? u'.' : c;
+        }
+        if (random.below(4) == 0)
+            rules.starts = sample.substr(0, random.below(3));
+        if (random.below(4) == 0)
+            rules.ends = sample.substr(sample.size() - std::min<std::size_t>(sample.size(), 1));
+        if (random.below(4) == 0)
+            rules.minLength = static_cast<std::uint32_t>(random.below(6));
+        if (random.below(4) == 0)
+            rules.maxLength = static_cast<std::uint32_t>(random.below(9));
+        const BoardTest board(values, rack, mandatory, forbidden, allowance, rules);
+        const BoardTest plainBoard(values, rack, mandatory, forbidden, allowance, {});
         ASSERT_EQ(words.size(), list.size());
         for (std::size_t i = 0; i < words.size(); ++i) {
             const std::u16string upper = toUpper(list[i]);
@@ -191,12 +212,29 @@ TEST(LetterTest, FastTestDecidesLikeTheLiteralOneOnRandomInput) {
                 << "\", mandatory \"" << toUtf8(mandatory) << "\", forbidden \""
                 << toUtf8(forbidden) << "\", allowance " << allowance << ", minimum " << minimum;
             ++outcomes[static_cast<int>(literal)];
+            // Without blanks or board the board test is the window's test.
+            const auto prepared = [&](const BoardTest& t) {
+                const std::int16_t bound = t.summaryBoundsValue() ? minimum : INT16_MIN;
+                return t.summary().passes(words, i, bound) ? t.check(words, i, minimum)
+                                                           : BoardVerdict{};
+            };
+            const BoardVerdict plain = plainBoard.judge(upper, minimum);
+            ASSERT_EQ(plain.result, literal);
+            ASSERT_EQ(prepared(plainBoard), plain);
+            ASSERT_EQ(plain.value, plain.result == CheckResult::Rejected ? 0 : words.value(i));
+            ASSERT_EQ(prepared(board), board.judge(upper, minimum))
+                << "blanks " << rules.blanks << ", pattern \"" << toUtf8(rules.pattern)
+                << "\", starts \"" << toUtf8(rules.starts) << "\", ends \"" << toUtf8(rules.ends)
+                << "\", lengths " << rules.minLength << ".." << rules.maxLength;
+            ++boardOutcomes[static_cast<int>(board.judge(upper, minimum).result)];
         }
     }
     // The comparison means something only if every outcome occurred often.
     EXPECT_GT(outcomes[0], 1000);
     EXPECT_GT(outcomes[1], 1000);
     EXPECT_GT(outcomes[2], 200);
+    EXPECT_GT(boardOutcomes[1], 1000);
+    EXPECT_GT(boardOutcomes[2], 200);
 }
 
 TEST(LetterColumns, NeededLettersInWordOrderLeftOverInRackOrder) {
