@@ -7,14 +7,15 @@ set -euo pipefail
 
 packages=(
     cmake g++ make
-    qt6-base-dev qt6-svg-dev qt6-qpa-plugins
+    qt6-base-dev qt6-svg-dev qt6-qpa-plugins qt6-translations-l10n
     libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev
     wngerman
     fonts-dejavu-core
 )
 if [ "${1:-}" = "--tests" ]; then
-    # clang and its runtime for the libFuzzer targets; Xvfb for screenshots.
-    packages+=(clang libclang-rt-14-dev xvfb xauth)
+    # clang and its runtime for the libFuzzer targets; Xvfb for screenshots;
+    # openbox and the X utilities for the window test under a window manager.
+    packages+=(clang libclang-rt-14-dev xvfb xauth openbox x11-utils)
 fi
 if [ "${1:-}" = "--bench" ]; then
     # Whole-process timing, peak memory, and a plain anagram finder to compare with.

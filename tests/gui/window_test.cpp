@@ -7,17 +7,25 @@
 #include "ui/about/about_box.h"
 #include "ui/main/banner.h"
 #include "ui/main/form1.h"
+#include "ui/main/german_qt_texts.h"
 #include "ui/main/progress_box.h"
 #include "ui/main/result_table_model.h"
 
+#include <QClipboard>
 #include <QDir>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QPainter>
 #include <QProcess>
 #include <QTableView>
 #include <QTest>
+#include <QTextStream>
 #include <QTimer>
+#include <QToolTip>
+#include <memory>
 #include <random>
 
 using namespace lettriner;
@@ -80,6 +88,40 @@ struct LoadedWindow {
     CurrentFolder current{folder.path()};
     Form1 form{folder.path()};
 };
+
+// Rows of word, length and value, the other cells empty, as the search leaves them.
+void fillRows(ResultTableModel& list, const QString& rows) {
+    for (const QString& row : rows.split(", ", Qt::SkipEmptyParts)) {
+        const QStringList cell = row.split(' ');
+        list.addRow(cell[0].toStdU16String());
+        list.setSubItem(list.rowCount(), 1, cell[1].toStdU16String());
+        list.setSubItem(list.rowCount(), 2, cell[2].toStdU16String());
+    }
+    list.publishFinished();
+}
+
+// A control as drawn, with the controls inside it that take the focus
+// themselves blanked out, so that their focus does not count as its own.
+QImage ownLook(QWidget* control) {
+    QImage image = control->grab().toImage();
+    QPainter painter(&image);
+    for (const QWidget* inner : control->findChildren<QWidget*>())
+        if (inner->isVisible() && (inner->focusPolicy() & Qt::TabFocus) != 0)
+            painter.fillRect(QRect(inner->mapTo(control, QPoint(0, 0)), inner->size()), Qt::black);
+    return image;
+}
+
+// In a child process: a line edit's context menu, with Qt's texts as the
+// program loads them, one action a line, without '&' and shortcut.
+int printContextMenu() {
+    installGermanQtTexts(*qApp);
+    QLineEdit edit;
+    const std::unique_ptr<QMenu> menu(edit.createStandardContextMenu());
+    QTextStream out(stdout);
+    for (const QAction* action : menu->actions())
+        out << action->text().remove('&').section('\t', 0, 0) << '\n';
+    return 0;
+}
 
 // In a child process: exit code 0 comes only from the window ending the process
 // on the close request; 3 means the program got back here.
@@ -231,14 +273,8 @@ private slots:
         QFETCH(int, direction);
         LoadedWindow w;
         ResultTableModel& list = w.form.mainList();
-        const QString rows = "HARN 4 5, RAHMEN 6 9, ÄHRE 4 12, ZEBRA 5 7, MEHR 4 7, abend 5 9";
-        for (const QString& row : (order.isEmpty() ? "" : rows).split(", ", Qt::SkipEmptyParts)) {
-            const QStringList cell = row.split(' '); // word, length, value
-            list.addRow(cell[0].toStdU16String());
-            list.setSubItem(list.rowCount(), 1, cell[1].toStdU16String());
-            list.setSubItem(list.rowCount(), 2, cell[2].toStdU16String());
-        }
-        list.publishFinished();
+        if (!order.isEmpty())
+            fillRows(list, "HARN 4 5, RAHMEN 6 9, ÄHRE 4 12, ZEBRA 5 7, MEHR 4 7, abend 5 9");
         QHeaderView* header = w.get<QTableView>("ListView1")->horizontalHeader();
         for (const int column : clicks)
             QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
@@ -316,6 +352,91 @@ private slots:
         QCOMPARE(w.field("txtMindestWert")->text(), minimum);
         w.search("RAHMEN");
         QCOMPARE(w.field("txtMindestWert")->text(), minimum);
+    }
+
+    void copySelectedRows_data() {
+        QTest::addColumn<QList<int>>("clicked"); // rows, the second and later with Ctrl
+        QTest::addColumn<QString>("copied");
+        QTest::newRow("one row") << QList<int>{1} << "MEHR\t4\t7\t\t";
+        QTest::newRow("one row at a time: the row clicked last")
+            << QList<int>{2, 0} << "HARN\t4\t5\t\t";
+    }
+    void copySelectedRows() {
+        QFETCH(QList<int>, clicked);
+        QFETCH(QString, copied);
+        LoadedWindow w;
+        fillRows(w.form.mainList(), "HARN 4 5, MEHR 4 7, RAHMEN 6 9");
+        auto* view = w.get<QTableView>("ListView1");
+        QGuiApplication::clipboard()->clear();
+        for (const int row : clicked)
+            QTest::mouseClick(view->viewport(), Qt::LeftButton,
+                              row == clicked.first() ? Qt::NoModifier : Qt::ControlModifier,
+                              view->visualRect(view->model()->index(row, 0)).center());
+        QTest::keySequence(view, QKeySequence::Copy);
+        QCOMPARE(QGuiApplication::clipboard()->text(), copied);
+    }
+
+    void cellTooltips_data() {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<QString>("tooltip");
+        const QString longWord = "DONAUDAMPFSCHIFFFAHRTSGESELLSCHAFT";
+        // clang-format off
+        QTest::newRow("cut-off word: the whole word")        << longWord << longWord;
+        QTest::newRow("word that fits: only the list's own") << "HARN"   << "Ergebnisliste";
+        // clang-format on
+    }
+    void cellTooltips() {
+        QFETCH(QString, word);
+        QFETCH(QString, tooltip);
+        LoadedWindow w;
+        fillRows(w.form.mainList(), word + " 4 5");
+        auto* view = w.get<QTableView>("ListView1");
+        const QPoint cell = view->visualRect(view->model()->index(0, 0)).center();
+        QHelpEvent help(QEvent::ToolTip, cell, view->viewport()->mapToGlobal(cell));
+        QApplication::sendEvent(view->viewport(), &help);
+        QCOMPARE(QToolTip::text(), tooltip);
+        QToolTip::hideText();
+    }
+
+    // Tab from the rack field round to it again: every stop looks different
+    // while it has the focus, the empty result list and the banner included.
+    void focusShowsOnEveryTabStop() {
+        LoadedWindow w;
+        QWidget* stop = w.field("txtBuchstaben");
+        QStringList visited;
+        do {
+            visited.append(stop->objectName());
+            const QImage focused = ownLook(stop);
+            QTest::keyClick(stop, Qt::Key_Tab);
+            QVERIFY2(ownLook(stop) != focused, qPrintable(stop->objectName()));
+            stop = w.form.focusWidget();
+        } while (stop != w.field("txtBuchstaben") && visited.size() < 20);
+        QCOMPARE(visited.join(' '), "txtBuchstaben txtConst txtPflichtbuchstaben txtMindestWert "
+                                    "txtVerboteneBuchstaben cmdSuchen ListView1 Picture1 cmdInfo");
+    }
+
+    void qtTextsInGerman_data() {
+        QTest::addColumn<QString>("lang");
+        QTest::newRow("LANG=C") << "C";
+        QTest::newRow("LANG=en_US.UTF-8") << "en_US.UTF-8";
+        QTest::newRow("LANG=de_DE.UTF-8") << "de_DE.UTF-8";
+    }
+    void qtTextsInGerman() {
+        QFETCH(QString, lang);
+        QProcess child;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* overriding : {"LC_ALL", "LC_MESSAGES", "LANGUAGE"})
+            environment.remove(overriding);
+        environment.insert("LANG", lang);
+        child.setProcessEnvironment(environment);
+        child.start(QCoreApplication::applicationFilePath(), {"--context-menu"});
+        QVERIFY(child.waitForFinished(30000));
+        const QStringList shown = QString::fromUtf8(child.readAllStandardOutput()).split('\n');
+        QStringList missing;
+        for (const QString text : {"Rückgängig", "Ausschneiden", "Kopieren", "Einfügen"})
+            if (!shown.contains(text))
+                missing.append(text);
+        QCOMPARE(missing.join(", "), QString());
     }
 
     void progressBar_data() {
@@ -397,6 +518,8 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     if (argc == 4 && QByteArray(argv[1]) == "--close-at")
         return closeAt(QString::fromLatin1(argv[2]), argv[3]);
+    if (argc == 2 && QByteArray(argv[1]) == "--context-menu")
+        return printContextMenu();
     WindowTest test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -1,11 +1,10 @@
 #include "ui/main/banner.h"
 
+#include "ui/main/pixel_edge.h"
 #include "ui/main/svg_pictures.h"
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 
 namespace lettriner::ui {
 
@@ -29,17 +28,17 @@ void Banner::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.drawPixmap(0, 0, picture_);
     if (border_) {
-        // A sunken two-pixel edge, like a framed picture.
-        const QRect outer = rect().adjusted(0, 0, -1, -1);
-        const QRect inner = outer.adjusted(1, 1, -1, -1);
-        painter.setPen(palette().color(QPalette::Dark));
-        painter.drawPolyline(QPolygon({outer.bottomLeft(), outer.topLeft(), outer.topRight()}));
-        painter.setPen(palette().color(QPalette::Light));
-        painter.drawPolyline(QPolygon({outer.topRight(), outer.bottomRight(), outer.bottomLeft()}));
-        painter.setPen(palette().color(QPalette::Shadow));
-        painter.drawPolyline(QPolygon({inner.bottomLeft(), inner.topLeft(), inner.topRight()}));
-        painter.setPen(palette().color(QPalette::Midlight));
-        painter.drawPolyline(QPolygon({inner.topRight(), inner.bottomRight(), inner.bottomLeft()}));
+        // A sunken two-line edge, like a framed picture.
+        drawPixelEdge(painter, rect(), 0, palette().color(QPalette::Dark),
+                      palette().color(QPalette::Light));
+        drawPixelEdge(painter, rect(), 1, palette().color(QPalette::Shadow),
+                      palette().color(QPalette::Midlight));
+    }
+    if (hasFocus()) {
+        // The banner is a Tab stop. The style's focus frame hardly shows on
+        // the dark picture, so a light dotted one marks the focus instead.
+        painter.setPen(QPen(palette().color(QPalette::Light), 0, Qt::DotLine));
+        painter.drawRect(rect().adjusted(4, 4, -5, -5));
     }
 }
 

@@ -9,6 +9,7 @@
 #include "ui/main/loading_cover.h"
 #include "ui/main/progress_box.h"
 #include "ui/main/result_table_model.h"
+#include "ui/main/result_view.h"
 #include "ui/main/search_window.h"
 #include "ui/main/svg_pictures.h"
 
@@ -218,10 +219,10 @@ void Form1::buildResultFrame() {
     list2_ = design::ListView2;
     model1_ = new ResultTableModel(this);
     model2_ = new ResultTableModel(this);
-    ListView1_ = place(new QTableView(f), "ListView1", list1_);
+    ListView1_ = place(new ResultView(f), "ListView1", list1_);
     ListView1_->setModel(model1_);
     ListView1_->setToolTip(QStringLiteral("Ergebnisliste"));
-    ListView2_ = place(new QTableView(f), "ListView2", list2_);
+    ListView2_ = place(new ResultView(f), "ListView2", list2_);
     ListView2_->setModel(model2_);
     ListView2_->setToolTip(QStringLiteral("Hier kommen nur die Ergebnisse, bei welchen man alle "
                                           "seine Steine loswird und einen Bonus erhält"));

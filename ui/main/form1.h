@@ -71,7 +71,7 @@ public:
     // What a close request does; the default ends the process at once.
     void setExitHandler(std::function<void()> exitNow) { exitNow_ = std::move(exitNow); }
 
-    // The outer height start-up gives the window, in twips.
+    // The outer height start-up gives the window, frame included, in twips.
     [[nodiscard]] static int outerHeightTwips();
 
 public slots:
@@ -86,6 +86,8 @@ public slots:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -102,6 +104,8 @@ private:
     void AbständeFestlegen();
     void ListView1_ColumnClick(int column);
     void placeLists();
+    // The client keeps its designed width; its height makes the outer height,
+    // whatever frame the window manager adds.
     void fitOuterHeight();
     [[nodiscard]] QSize nonClientSize() const;
     [[nodiscard]] QSize outerSizeTwips() const;

@@ -75,7 +75,6 @@ void Form1::Form_Load() {
 
     // Let the window and its cover paint before the longest step.
     yieldToEvents();
-    fitOuterHeight();
 
     const lettriner::WordDatabase database =
         lettriner::DatenbankEinlesen("DB1.txt", [this] { yieldToEvents(); });
@@ -89,7 +88,7 @@ void Form1::Form_Load() {
 }
 
 QSize Form1::nonClientSize() const {
-    // Until the window manager has framed the window, assume a classic frame.
+    // Until the window is shown, assume the frame it was designed against.
     if (!isVisible())
         return {twips(design::kNonClientWidth), twips(design::kNonClientHeight)};
     return frameGeometry().size() - geometry().size();
@@ -100,9 +99,22 @@ QSize Form1::outerSizeTwips() const {
 }
 
 void Form1::fitOuterHeight() {
+    // A window manager reports its frame only after it has framed the window,
+    // some time after the show; until then frameGeometry() equals geometry().
+    // The show and move events that follow the framing fit the height again.
     const int clientHeight = twips(outerHeightTwips()) - nonClientSize().height();
     if (clientHeight > 0 && clientHeight != height())
         setFixedSize(width(), clientHeight);
+}
+
+void Form1::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    fitOuterHeight();
+}
+
+void Form1::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    fitOuterHeight();
 }
 
 void Form1::Timer2_Timer() {

@@ -1,5 +1,7 @@
 #include "ui/main/progress_box.h"
 
+#include "ui/main/pixel_edge.h"
+
 #include <QFontMetrics>
 #include <QPainter>
 #include <algorithm>
@@ -47,10 +49,11 @@ QPixmap& ProgressBox::surface() {
 void ProgressBox::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), palette().color(QPalette::Button));
-    painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
     if (!kept_.isNull())
         painter.drawPixmap(QPoint(kBorder, kBorder), kept_);
+    // Last, so the drawing never covers the border's device pixels.
+    const QColor line = palette().color(QPalette::WindowText);
+    drawPixelEdge(painter, rect(), 0, line, line);
 }
 
 void ProgressBox::resizeEvent(QResizeEvent* event) {
