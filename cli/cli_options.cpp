@@ -172,7 +172,8 @@ ParseResult parseOptions(const std::vector<std::string>& arguments) {
 std::string usageText() {
     return "Usage: lettriner-cli [OPTION]...\n"
            "Finds the best German words for a Lettrino rack, like the Lettriner window.\n"
-           "Reads DB1.txt, Bewertung1.txt and Bewertung2.txt from the current folder.\n"
+           "Reads DB1.txt, Bewertung1.txt and Bewertung2.txt from the current folder,\n"
+           "or from the installed word list's folder when the current one has no DB1.txt.\n"
            "\n"
            "Each field option takes the text as it would be typed into the field:\n"
            "  --rack TEXT        tiles on the rack (default AFEEZHRB)\n"
@@ -206,7 +207,8 @@ std::string usageText() {
            "\n"
            "Options also take the form --rack=TEXT. A number out of range leaves the\n"
            "field's default value in force. Exit status: 0 on success, 1 when the folder\n"
-           "cannot be entered or a checked word is not in the list, 2 on a usage error.\n";
+           "cannot be entered or holds no DB1.txt or a checked word is not in the list,\n"
+           "2 on a usage error.\n";
 }
 
 } // namespace lettriner::cli

@@ -2,6 +2,7 @@
 
 #include "cli/cli_options.h"
 #include "cli/cli_output.h"
+#include "cli/data_folder.h"
 #include "data/text_case.h"
 #include "data/utf8.h"
 #include "data/word_database.h"
@@ -62,14 +63,26 @@ int main(int argc, char** argv) {
         std::cout << "lettriner-cli " LETTRINER_VERSION "\n";
         return 0;
     }
+    std::error_code error;
     if (options.directory) {
-        std::error_code error;
         std::filesystem::current_path(*options.directory, error);
         if (error) {
             std::cerr << "lettriner-cli: cannot change to " << *options.directory << ": "
                       << error.message() << '\n';
             return 1;
         }
+    } else if (!cli::holdsWordList(".")) {
+        const auto installed = cli::installedDataFolder(
+            std::filesystem::read_symlink("/proc/self/exe", error).parent_path());
+        if (!error && installed && cli::holdsWordList(*installed))
+            std::filesystem::current_path(*installed, error);
+    }
+    // Reading would leave empty data files behind; without a word list there
+    // is nothing to search anyway.
+    if (!cli::holdsWordList(".")) {
+        std::cerr << "lettriner-cli: DB1.txt not found in "
+                  << std::filesystem::current_path(error).string() << "; use -C DIR\n";
+        return 1;
     }
 
     const WordDatabase database = DatenbankEinlesen("DB1.txt");

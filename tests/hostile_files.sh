@@ -21,7 +21,8 @@ cp "$data/libQt6Widgets.so.6" "$data/libstdc++.so.6"
 ln -s "$work/elsewhere/DB1.txt" "$data/DB1.txt"
 mkdir "$work/elsewhere"
 cd "$data"
-LD_DEBUG=libs "$run/lettriner-cli" --rack AB >/dev/null 2>"$work/cli.log"
+# The command line finds no word list here and says so (exit 1), after loading.
+LD_DEBUG=libs "$run/lettriner-cli" --rack AB >/dev/null 2>"$work/cli.log" || true
 LD_DEBUG=libs timeout 3 "$run/lettriner" 2>"$work/window.log" || true
 if grep -h "trying file=$data\|trying file=\./\|trying file=lib" "$work/cli.log" "$work/window.log"; then
     fail "the loader looked for libraries in the data folder"

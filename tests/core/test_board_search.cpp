@@ -56,6 +56,7 @@ TEST(BoardTest, BlanksAndPatternsCoverLettersAsThePlayerWould) {
         {"a blank fills a missing letter",        u"HAUS", 1, 0, u"",       u"",   0,  u"HAUT",   kYes,   4,  u"",    u"s", u"t"},
         {"one blank, two letters missing",        u"HAUS", 1, 0, u"",       u"",   0,  u"HAUTE",  kNo,    0,  u"",    u"",  u""},
         {"two blanks, equal letters in order",    u"HAUS", 2, 0, u"",       u"",   0,  u"HAUTE",  kYes,   4,  u"",    u"s", u"te"},
+        {"equally cheap: the blank takes the first", u"HAUS", 1, 1, u"",    u"",   0,  u"HAUTE",  kYes,   5,  u"e",   u"s", u"t"},
         {"the real tile is used, not the blank",  u"HAUT", 1, 0, u"",       u"",   0,  u"HAUT",   kYes,   5,  u"",    u"",  u""},
         {"tile first, the blank for the second",  u"EHL",  1, 0, u"",       u"",   0,  u"HELL",   kBonus, 5,  u"",    u"",  u"l"},
         {"blank takes the cheaper, board the P",  u"HAU",  1, 1, u"",       u"",   0,  u"HAUPT",  kBonus, 8,  u"p",   u"",  u"t"},

@@ -2,10 +2,12 @@
 // small data files written in Windows-1252 with CR LF line ends.
 
 #include "cli/cli_options.h"
+#include "cli/data_folder.h"
 #include "support/temp_folder.h"
 
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
 #include <sys/wait.h>
 #include <tuple>
@@ -65,6 +67,20 @@ TEST(ParseOptions, BoardOptionsAreUpperCasedAndCheckTakesTheFollowingWords) {
                                                              "e"}));
     EXPECT_TRUE(o.json && o.onBoard());
     EXPECT_FALSE(parseOptions({"--rack=x", "--tsv"}).options.onBoard());
+}
+
+TEST(DataFolder, InstalledProgramsFindTheirWordList) {
+    const std::pair<const char*, std::optional<std::filesystem::path>> cases[] = {
+        {"/usr/lib/lettriner", "/var/lib/lettriner"},
+        {"/usr/lib/lettriner/", "/var/lib/lettriner"},
+        {"/home/ada/.local/lib/lettriner", "/home/ada/.local/share/lettriner"},
+        {"/opt/x/lib/../lib/lettriner", "/opt/x/share/lettriner"},
+        {"/work/build/dev/run", std::nullopt},
+        {"/usr/lib64/lettriner", std::nullopt},
+        {"lettriner", std::nullopt},
+    };
+    for (const auto& [programFolder, expected] : cases)
+        EXPECT_EQ(installedDataFolder(programFolder), expected) << programFolder;
 }
 
 // Letters with a fraction (T) and a negative value (S); the word list has a
@@ -201,6 +217,7 @@ TEST_F(Cli, ExitCodesAndMessages) {
         {{"--rack"}, 2, "", "option --rack needs a text\nTry 'lettriner-cli --help'"},
         {{"--pattern", "a-b"}, 2, "", "option --pattern takes letters and '.', not '-'\nTry"},
         {{"-C", "/nonexistent/lettriner-test-folder"}, 1, "", "cannot change to"},
+        {{"-C", ".."}, 1, "", "DB1.txt not found in "},
     };
     for (const auto& [arguments, exitCode, outStart, errPart] : cases) {
         const CliRun run = runCli(arguments);
@@ -209,6 +226,9 @@ TEST_F(Cli, ExitCodesAndMessages) {
         EXPECT_NE(run.err.find(errPart), std::string::npos) << run.err;
         EXPECT_EQ(run.out.empty(), outStart.empty()) << run.out;
     }
+    // Without a word list nothing is read, so no empty data file is left behind.
+    EXPECT_FALSE(std::filesystem::exists(folder / "DB1.txt"));
+    EXPECT_FALSE(std::filesystem::exists(folder / "Bewertung1.txt"));
 }
 
 } // namespace

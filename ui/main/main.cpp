@@ -4,8 +4,15 @@
 #include "ui/main/german_qt_texts.h"
 
 #include <QApplication>
+#include <cstdio>
+#include <cstring>
 
 int main(int argc, char** argv) {
+    // Answered before any window or display is needed.
+    if (argc == 2 && std::strcmp(argv[1], "--version") == 0) {
+        std::puts("lettriner " LETTRINER_VERSION);
+        return 0;
+    }
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lettriner"));
     lettriner::ui::installGermanQtTexts(app);
