@@ -16,6 +16,8 @@ if [ "${1:-}" = "--tests" ]; then
     # clang and its runtime for the libFuzzer targets; Xvfb for screenshots;
     # openbox and the X utilities for the window test under a window manager.
     packages+=(clang libclang-rt-14-dev xvfb xauth openbox x11-utils)
+    # The formatting check, and building and checking the Debian package.
+    packages+=(clang-format dpkg-dev lintian desktop-file-utils appstream)
 fi
 if [ "${1:-}" = "--bench" ]; then
     # Whole-process timing, peak memory, and a plain anagram finder to compare with.

@@ -11,6 +11,7 @@
 #include "ui/main/progress_box.h"
 #include "ui/main/result_table_model.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QDir>
 #include <QHeaderView>
@@ -352,6 +353,36 @@ private slots:
         QCOMPARE(w.field("txtMindestWert")->text(), minimum);
         w.search("RAHMEN");
         QCOMPARE(w.field("txtMindestWert")->text(), minimum);
+    }
+
+    void screenReaderNames_data() {
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<QString>("name");
+        // clang-format off
+        QTest::newRow("rack field: its caption") << "txtBuchstaben"
+            << "Vorhandene Buchstaben: Buchstaben, die vorkommen dürfen";
+        QTest::newRow("allowance field")      << "txtConst" << "Azahl zusätzlicher Buchstaben: "
+                                                 "soviele dürfen noch zusätzlich im Wort vorkommen";
+        QTest::newRow("mandatory field")      << "txtPflichtbuchstaben"
+            << "Pflichtbuchstaben: diese müssen auf jeden Fall im Wort vorkommen";
+        QTest::newRow("minimum field")        << "txtMindestWert" << "Mindestwortwert:";
+        QTest::newRow("forbidden field")      << "txtVerboteneBuchstaben"
+            << "verbotene: Diese Buchstaben sollen nicht im Wort vorkommen";
+        QTest::newRow("search button")        << "cmdSuchen" << "Suche starten";
+        QTest::newRow("stop button")          << "cmdStop"   << "Suche anhalten";
+        QTest::newRow("? button")             << "cmdInfo"   << "Information";
+        QTest::newRow("banner")               << "Picture1"  << "Lettriner, Information";
+        QTest::newRow("result list")          << "ListView1" << "Ergebnisliste";
+        QTest::newRow("bonus list")           << "ListView2" << "Bonuswörter";
+        // clang-format on
+    }
+    void screenReaderNames() {
+        QFETCH(QString, control);
+        QFETCH(QString, name);
+        LoadedWindow w;
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(w.get(control));
+        QVERIFY(accessible != nullptr);
+        QCOMPARE(accessible->text(QAccessible::Name), name);
     }
 
     void copySelectedRows_data() {

@@ -113,6 +113,7 @@ Form1::Form1(std::filesystem::path programFolder, QWidget* parent)
     Frame3_->hide();
     buildBanner();
     setTabOrder();
+    nameForScreenReaders();
 
     Timer1_ = new QTimer(this);
     Timer1_->setObjectName(QStringLiteral("Timer1"));
@@ -137,6 +138,27 @@ Form1::~Form1() {
 
 int Form1::outerHeightTwips() {
     return design::Frame1.bottom() + design::kBelowFrame1;
+}
+
+void Form1::nameForScreenReaders() {
+    // A field's caption label is its buddy, so screen readers read the caption
+    // as the field's name. The controls without a caption get a name of their own.
+    const std::pair<const char*, const char*> buddies[] = {{"Label1", "txtBuchstaben"},
+                                                           {"Label3", "txtConst"},
+                                                           {"Label9", "txtPflichtbuchstaben"},
+                                                           {"Label7", "txtMindestWert"},
+                                                           {"Label8", "txtMaxUB"},
+                                                           {"Label10", "txtVerboteneBuchstaben"}};
+    for (const auto& [label, field] : buddies)
+        findChild<QLabel*>(QLatin1String(label))
+            ->setBuddy(findChild<QWidget*>(QLatin1String(field)));
+    cmdSuchen_->setAccessibleName(QStringLiteral("Suche starten"));
+    cmdStop_->setAccessibleName(QStringLiteral("Suche anhalten"));
+    cmdInfo_->setAccessibleName(QStringLiteral("Information"));
+    Picture1_->setAccessibleName(QStringLiteral("Lettriner, Information"));
+    ListView1_->setAccessibleName(QStringLiteral("Ergebnisliste"));
+    ListView2_->setAccessibleName(QStringLiteral("Bonuswörter"));
+    picProgress_->setAccessibleName(QStringLiteral("Fortschritt"));
 }
 
 void Form1::buildInputFrame() {

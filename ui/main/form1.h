@@ -106,6 +106,7 @@ private:
     void placeLists();
     // The client keeps its designed width; its height makes the outer height,
     // whatever frame the window manager adds.
+    void nameForScreenReaders();
     void fitOuterHeight();
     [[nodiscard]] QSize nonClientSize() const;
     [[nodiscard]] QSize outerSizeTwips() const;
