@@ -3,6 +3,7 @@
 #include "cli/cli_options.h"
 #include "cli/cli_output.h"
 #include "cli/data_folder.h"
+#include "data/program_folder.h"
 #include "data/text_case.h"
 #include "data/utf8.h"
 #include "data/word_database.h"
@@ -72,9 +73,8 @@ int main(int argc, char** argv) {
             return 1;
         }
     } else if (!cli::holdsWordList(".")) {
-        const auto installed = cli::installedDataFolder(
-            std::filesystem::read_symlink("/proc/self/exe", error).parent_path());
-        if (!error && installed && cli::holdsWordList(*installed))
+        const auto installed = cli::installedDataFolder(programFolder());
+        if (installed && cli::holdsWordList(*installed))
             std::filesystem::current_path(*installed, error);
     }
     // Reading would leave empty data files behind; without a word list there

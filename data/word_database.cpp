@@ -144,21 +144,32 @@ std::pair<std::string, CodePage> encoded(std::u16string_view text) {
 
 } // namespace
 
+// Both constructors leave the list empty when building it fails: the read
+// has succeeded by then, and a list that does not fit is treated like a file
+// that could not be read, so start-up and searches go on.
 WordDatabase::WordDatabase(FileContents contents) {
-    auto storage = std::make_shared<Storage>();
-    storage->contents = std::move(contents);
-    storage->codePage = windows1252Characters();
-    storage->starts = startsOfEntries(storage->contents.bytes(), storage->entries);
-    adopt(std::move(storage));
+    try {
+        auto storage = std::make_shared<Storage>();
+        storage->contents = std::move(contents);
+        storage->codePage = windows1252Characters();
+        storage->starts = startsOfEntries(storage->contents.bytes(), storage->entries);
+        adopt(std::move(storage));
+    } catch (const std::bad_alloc&) {
+    } catch (const std::length_error&) {
+    }
 }
 
 WordDatabase::WordDatabase(std::u16string_view text) {
-    auto [bytes, page] = encoded(text.substr(0, kLargestWordList));
-    auto storage = std::make_shared<Storage>();
-    storage->contents = FileContents(std::move(bytes));
-    storage->codePage = page;
-    storage->starts = startsOfEntries(storage->contents.bytes(), storage->entries);
-    adopt(std::move(storage));
+    try {
+        auto [bytes, page] = encoded(text.substr(0, kLargestWordList));
+        auto storage = std::make_shared<Storage>();
+        storage->contents = FileContents(std::move(bytes));
+        storage->codePage = page;
+        storage->starts = startsOfEntries(storage->contents.bytes(), storage->entries);
+        adopt(std::move(storage));
+    } catch (const std::bad_alloc&) {
+    } catch (const std::length_error&) {
+    }
 }
 
 void WordDatabase::adopt(std::shared_ptr<const Storage> storage) {
@@ -186,11 +197,7 @@ WordDatabase DatenbankEinlesen(const std::filesystem::path& Pfad,
     FileContents contents = readFileContents(Pfad, kLargestWordList);
     if (yield)
         yield();
-    try {
-        return WordDatabase(std::move(contents));
-    } catch (const std::bad_alloc&) {
-        return {}; // no memory for the offsets: as if the file could not be read
-    }
+    return WordDatabase(std::move(contents));
 }
 
 std::u16string databaseCountText(std::int64_t highestIndex, char16_t groupSeparator) {

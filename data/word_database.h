@@ -23,15 +23,16 @@ using CodePage = std::array<char16_t, 256>;
 // The file's bytes cut at every CR LF. A file ending in CR LF has one more
 // entry than words: the empty text after the last line end. An empty file
 // has no entries (highest index -1). Copies share the same memory.
+// Memory too short for the list's offsets gives an empty list, as an
+// unreadable file does; nothing is thrown.
 class WordDatabase {
 public:
     WordDatabase() = default;
     // Bytes in Windows-1252, as DB1.txt holds them.
     explicit WordDatabase(FileContents contents);
     // Text already decoded (tests, tools). A character Windows-1252 cannot
-    // hold takes a byte no character of the text uses; std::length_error when
-    // no such byte is left. Text
-    // beyond kLargestWordList characters is left out.
+    // hold takes a byte no character of the text uses; when no such byte is
+    // left the list is empty. Text beyond kLargestWordList characters is left out.
     explicit WordDatabase(std::u16string_view text);
 
     [[nodiscard]] std::size_t size() const { return size_; }
@@ -70,9 +71,9 @@ inline constexpr std::uintmax_t kLargestWordList = std::uintmax_t{256} << 20;
 
 // Reads the word list from `Pfad` (start-up passes "DB1.txt", relative to the
 // current folder). `yield` runs once between reading and cutting, so the
-// window can paint its loading cover. An absent or unreadable file gives an
-// empty list (and, being absent, is left behind empty). A larger file than
-// kLargestWordList is read up to that limit.
+// window can paint its loading cover. An absent or unreadable file, or one
+// memory cannot hold, gives an empty list (and, being absent, is left behind
+// empty). A larger file than kLargestWordList is read up to that limit.
 [[nodiscard]] WordDatabase DatenbankEinlesen(const std::filesystem::path& Pfad,
                                              const std::function<void()>& yield = {});
 

@@ -6,6 +6,8 @@
 #include "data/text_codec.h"
 #include "data/text_lines.h"
 
+#include <new>
+
 namespace lettriner {
 
 LetterValueTable letterValuesFromTexts(std::u16string_view letters, std::u16string_view values) {
@@ -23,9 +25,13 @@ LetterValueTable letterValuesFromTexts(std::u16string_view letters, std::u16stri
 }
 
 LetterValueTable BewertungsFeldLaden(const std::filesystem::path& folder) {
-    const std::u16string letters = DateiLesen(folder / "Bewertung1.txt");
-    const std::u16string values = DateiLesen(folder / "Bewertung2.txt");
-    return letterValuesFromTexts(letters, values);
+    try {
+        const std::u16string letters = DateiLesen(folder / "Bewertung1.txt");
+        const std::u16string values = DateiLesen(folder / "Bewertung2.txt");
+        return letterValuesFromTexts(letters, values);
+    } catch (const std::bad_alloc&) {
+        return {}; // the lines of huge files do not fit: as if they could not be read
+    }
 }
 
 std::int16_t WortBewertung(const LetterValueTable& table, std::u16string_view Wort) {

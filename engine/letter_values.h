@@ -27,7 +27,8 @@ private:
                                                      std::u16string_view values);
 
 // Reads Bewertung1.txt and Bewertung2.txt from `folder` (start-up passes the
-// current folder). Missing files count as empty and are left behind empty.
+// current folder). Missing files count as empty and are left behind empty;
+// files too large for the memory left give an empty table.
 [[nodiscard]] LetterValueTable BewertungsFeldLaden(const std::filesystem::path& folder = {});
 
 // The word's value: the sum of its letters' values (any case), rounded half to

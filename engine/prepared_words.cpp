@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <new>
 
 namespace lettriner {
 namespace {
@@ -67,8 +68,17 @@ std::uint32_t letterSet(std::u16string_view upperText) {
 }
 
 PreparedWords::PreparedWords(WordDatabase database, const LetterValueTable& values)
-    : database_(std::move(database)), letterValues_(values), letters_(database_.size()),
-      wordValues_(database_.size()) {
+    : database_(std::move(database)), letterValues_(values) {
+    try {
+        letters_ = LargeArray<std::uint32_t>(database_.size());
+        wordValues_ = LargeArray<std::int16_t>(database_.size());
+    } catch (const std::bad_alloc&) {
+        // The list was read, but its arrays do not fit: search no words
+        // rather than end the program.
+        database_ = WordDatabase();
+        letters_ = LargeArray<std::uint32_t>();
+        return;
+    }
     const ByteFacts facts = byteFacts(database_.codePage(), values);
     upper_ = facts.upper;
     alphabetIndex_ = facts.alphabetIndex;

@@ -52,6 +52,8 @@ public:
     };
 
     PreparedWords() = default;
+    // Memory too short for the per-word arrays leaves no words, as an
+    // unreadable list does; nothing is thrown.
     PreparedWords(WordDatabase database, const LetterValueTable& values);
 
     [[nodiscard]] std::size_t size() const { return database_.size(); }

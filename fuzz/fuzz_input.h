@@ -13,19 +13,29 @@
 
 namespace lettriner::fuzz {
 
-inline std::vector<std::u16string> pieces(const std::uint8_t* data, std::size_t size,
-                                          std::size_t count) {
-    std::vector<std::u16string> result;
+// The pieces as bytes, for inputs that are not read as Windows-1252 (UTF-8
+// files, command-line arguments).
+inline std::vector<std::string_view> bytePieces(const std::uint8_t* data, std::size_t size,
+                                                std::size_t count) {
+    std::vector<std::string_view> result;
     std::string_view rest(reinterpret_cast<const char*>(data), size);
     while (result.size() + 1 < count) {
         const std::size_t cut = rest.find('\x1F');
         if (cut == std::string_view::npos)
             break;
-        result.push_back(decodeWindows1252(rest.substr(0, cut)));
+        result.push_back(rest.substr(0, cut));
         rest.remove_prefix(cut + 1);
     }
-    result.push_back(decodeWindows1252(rest));
+    result.push_back(rest);
     result.resize(count);
+    return result;
+}
+
+inline std::vector<std::u16string> pieces(const std::uint8_t* data, std::size_t size,
+                                          std::size_t count) {
+    std::vector<std::u16string> result;
+    for (const std::string_view piece : bytePieces(data, size, count))
+        result.push_back(decodeWindows1252(piece));
     return result;
 }
 

@@ -4,6 +4,9 @@
 // - the fast sort gives the literal selection sort's permutation;
 // - both lists come out best first, the main list within the field size;
 // - every listed word passes the letter test, every bonus word as a bonus word;
+// - a literal run, word by word with the literal letter test against the
+//   minimum as pruning raises it, finds as many words, keeps the same main
+//   list and lists every bonus word it accepts;
 // - with blanks and a board pattern (three more pieces) the prepared board
 //   test decides like its character-wise form, and without them the board
 //   search gives exactly the window's search.
@@ -16,6 +19,8 @@
 #include "engine/headless_search.h"
 #include "engine/letter_values.h"
 #include "engine/prepared_words.h"
+#include "engine/result_store.h"
+#include "engine/word_check.h"
 #include "engine/word_test.h"
 #include "fuzz_input.h"
 #include "support/literal_selection_sort.h"
@@ -89,6 +94,54 @@ void checkBoardSearch(const PreparedWords& words, const HeadlessFields& fields,
         fuzz::fail("without blanks or board the board search differs from the window's");
 }
 
+// The run as the window's loop once was: every word in order through the
+// literal letter test and value, pruning exactly where the run prunes.
+void checkAgainstLiteralRun(const PreparedWords& words, const WordDatabase& database,
+                            const LetterValueTable& values, const LetterRules& letters,
+                            const HeadlessFields& fields, const HeadlessOutcome& outcome) {
+    KeptNumberField minimum{std::u16string(SearchDefaults::minimum)};
+    minimum.setText(fields.minimum);
+    KeptNumberField fieldSize{std::u16string(SearchDefaults::fieldSize)};
+    fieldSize.setText(fields.fieldSize);
+    ResultStore main;
+    ResultStore bonus;
+    std::uint64_t found = 0;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const std::u16string upper = toUpper(database[i]);
+        const CheckResult result =
+            WortPrüfen(values, upper, letters.rack, letters.mandatory, letters.forbidden,
+                       letters.allowance, minimum.value());
+        if (result == CheckResult::Rejected)
+            continue;
+        ++found;
+        const std::int16_t value = WortBewertung(values, upper);
+        main.append(static_cast<std::uint32_t>(i), value);
+        if (main.highestIndex() > fieldSize.value())
+            SchlechteHälfteLöschen(main, minimum);
+        if (result == CheckResult::AcceptedAsBonus)
+            bonus.append(static_cast<std::uint32_t>(i), value);
+    }
+    if (found != outcome.found)
+        fuzz::fail("the run found another number of words than the literal run");
+    if (minimum.text() != outcome.minimumText)
+        fuzz::fail("the run left another minimum value than the literal run");
+    finishStore(main);
+    MemoryResultList mainList;
+    publishStore(main, words, letters.rack, mainList);
+    if (mainList.rows() != outcome.mainList.rows())
+        fuzz::fail("the run kept another main list than the literal run");
+    // The bonus store is never pruned: every bonus word of the literal run is listed.
+    std::vector<std::u16string> accepted = storeWords(bonus, words);
+    accepted.erase(accepted.begin()); // the starting entry
+    std::vector<std::u16string> listed;
+    for (const MemoryResultList::Row& row : outcome.bonusList.rows())
+        listed.push_back(row[0]);
+    std::sort(accepted.begin(), accepted.end());
+    std::sort(listed.begin(), listed.end());
+    if (accepted != listed)
+        fuzz::fail("the bonus list differs from the bonus words of the literal run");
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -133,6 +186,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const HeadlessFields fields{search, texts[7], texts[8]};
     const HeadlessOutcome outcome = searchWithoutWindow(words, fields);
+    checkAgainstLiteralRun(words, database, values, letters, fields, outcome);
     checkBoardSearch(words, fields, rules, board, outcome);
     KeptNumberField fieldSize{std::u16string(SearchDefaults::fieldSize)};
     fieldSize.setText(texts[8]);

@@ -7,10 +7,11 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace lettriner;
-    if (size == 0)
+    if (size < 2)
         return 0;
-    const auto index = static_cast<std::int16_t>(static_cast<std::int8_t>(data[0]));
-    const auto texts = fuzz::pieces(data + 1, size - 1, 2);
+    // Two bytes, so that every language index can be asked for.
+    const auto index = static_cast<std::int16_t>(data[0] | data[1] << 8);
+    const auto texts = fuzz::pieces(data + 2, size - 2, 2);
     const std::u16string& key = texts[0];
     std::u16string text = WiederholtErsetzen(texts[1], u"\t\t", u"\t");
     if (text.find(u"\t\t") != std::u16string::npos)

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds the libFuzzer targets (preset "fuzz", clang) and runs each for a
-# bounded time from its seed corpus. Findings land in fuzz/findings/.
+# bounded time from its seed corpus: every folder of fuzz/corpus/ names one.
+# Findings land in fuzz/findings/.
 #   fuzz/run_fuzzers.sh [SECONDS_PER_TARGET]   (default 60)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -11,7 +12,8 @@ cmake --build --preset fuzz -j "$(nproc)" >/dev/null
 
 mkdir -p fuzz/findings
 status=0
-for target in numeric_value codec tagged_lines letter_values search; do
+for corpus in fuzz/corpus/*/; do
+    target="$(basename "$corpus")"
     work="$(mktemp -d)"
     cp -r "fuzz/corpus/$target/." "$work/"
     echo "== fuzz_$target (${seconds}s)"

@@ -14,8 +14,9 @@ packages=(
 )
 if [ "${1:-}" = "--tests" ]; then
     # clang and its runtime for the libFuzzer targets; Xvfb for screenshots;
-    # openbox and the X utilities for the window test under a window manager.
-    packages+=(clang libclang-rt-14-dev xvfb xauth openbox x11-utils)
+    # openbox and the X utilities for the window test under a window manager;
+    # devscripts for hardening-check on the built programs.
+    packages+=(clang libclang-rt-14-dev xvfb xauth openbox x11-utils devscripts)
     # The formatting check, and building and checking the Debian package.
     packages+=(clang-format dpkg-dev lintian desktop-file-utils appstream)
 fi

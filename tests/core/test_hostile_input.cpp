@@ -10,12 +10,17 @@
 #include "engine/headless_search.h"
 #include "engine/letter_values.h"
 #include "engine/prepared_words.h"
+#include "support/address_space.h"
 #include "support/temp_folder.h"
 
+#include <fcntl.h>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
 
 namespace lettriner {
 namespace {
@@ -125,6 +130,38 @@ TEST_F(HostileInput, EnormousFieldTextsAndEveryCharacterInEveryField) {
     EXPECT_EQ(asRack.bonusList.rowCount(), 1); // the line of every character uses every tile
     EXPECT_EQ(search({u"AB", u"", all, u"0"}).found, 1u); // only the empty last line is free
     EXPECT_EQ(search({u"AB", all, u"", all}, all).found, 0u);
+}
+
+// Runs lettriner-cli in the current folder, its address space capped at what
+// this test holds now plus `room` (a fresh program holds less, sanitizer or
+// not), its output to out.txt. Returns the exit status, or -1 for a signal.
+int runCliWithin(std::uint64_t room, const std::vector<const char*>& arguments) {
+    const int out = ::open("out.txt", O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        std::vector<char*> argv = {const_cast<char*>("lettriner-cli")};
+        for (const char* argument : arguments)
+            argv.push_back(const_cast<char*>(argument));
+        argv.push_back(nullptr);
+        if (out >= 0 && ::dup2(out, STDOUT_FILENO) >= 0 && testing::capAddressSpace(room))
+            ::execv(LETTRINER_CLI, argv.data());
+        ::_exit(127);
+    }
+    ::close(out);
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST_F(HostileInput, MemoryShortAfterReadingGivesAnEmptyListThatSearches) {
+    testing::writeCappedList("DB1.txt");
+    for (const testing::MemoryRoom& row : testing::kMemoryRooms) {
+        EXPECT_EQ(runCliWithin(row.room, {"--tsv", "--rack=AB", "--min=0"}), 0) << row.name;
+        std::string found = "found\t";
+        found += std::to_string(row.listLoads ? testing::kCappedListLines : 0);
+        found += '\n';
+        EXPECT_NE(folder.read("out.txt").find(found), std::string::npos) << row.name;
+    }
 }
 
 } // namespace

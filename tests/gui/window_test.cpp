@@ -1,8 +1,10 @@
 // The main window as a player sees it, driven headless, one table per interaction.
 
+#include "data/number_format.h"
 #include "data/word_database.h"
 #include "engine/headless_search.h"
 #include "engine/letter_values.h"
+#include "support/address_space.h"
 #include "support/temp_folder.h"
 #include "ui/about/about_box.h"
 #include "ui/main/banner.h"
@@ -141,6 +143,24 @@ int closeAt(const QString& moment, const char* folder) {
     return 3;
 }
 
+// In a child process: the window loads the word list of `folder` with the
+// address space capped at what the process holds now plus `room`, searches
+// for AB from 0, and prints the count label's number line and the found text.
+int loadWithin(qulonglong room, const char* folder) {
+    CurrentFolder current(folder);
+    QLocale::setDefault(QLocale::c());
+    if (!capAddressSpace(room))
+        return 2;
+    Form1 form(folder);
+    form.Form_Load();
+    form.findChild<QLineEdit*>("txtMindestWert")->setText("0");
+    form.findChild<QLineEdit*>("txtBuchstaben")->setText("AB");
+    form.cmdSuchen_Click();
+    QTextStream(stdout) << form.findChild<QLabel*>("lblDBCount")->text().section('\n', 1) << '\n'
+                        << form.findChild<QLabel*>("lblInfos")->text() << '\n';
+    return 0;
+}
+
 } // namespace
 
 class WindowTest : public QObject {
@@ -203,6 +223,37 @@ private slots:
         QCOMPARE(child.exitCode(), 0);
         QCOMPARE(QDir(path).entryList(QDir::Files), // only the settings file is new
                  (QStringList{"Bewertung1.txt", "Bewertung2.txt", "DB1.txt", "Settings.txt"}));
+    }
+
+    void memoryShortAfterReading_data() {
+        QTest::addColumn<qulonglong>("room");
+        QTest::addColumn<QString>("shown");
+        const auto lines = static_cast<std::int64_t>(kCappedListLines);
+        const QString loaded = QString::fromStdU16String(formatGrouped(lines, u',')) +
+                               " Einträge\n" + QString::number(lines) + " Wörter gefunden\n";
+        for (const MemoryRoom& row : kMemoryRooms)
+            QTest::newRow(row.name)
+                << qulonglong{row.room}
+                << (row.listLoads ? loaded : "-1 Einträge\n0 Wörter gefunden\n");
+    }
+    void memoryShortAfterReading() {
+        QFETCH(qulonglong, room);
+        QFETCH(QString, shown);
+        TempFolder folder;
+        writeDataFiles(folder, {"A"});
+        writeCappedList(folder / "DB1.txt");
+        QProcess child;
+        // One malloc arena: each thread's own would reserve 64 MiB of address space.
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("MALLOC_ARENA_MAX", "1");
+        child.setProcessEnvironment(environment);
+        child.start(QCoreApplication::applicationFilePath(),
+                    {"--load-within", QString::number(room),
+                     QString::fromStdString(folder.path().string())});
+        QVERIFY(child.waitForFinished(120000));
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(child.exitCode(), 0);
+        QCOMPARE(QString::fromUtf8(child.readAllStandardOutput()), shown);
     }
 
     void editingTheRack_data() {
@@ -549,6 +600,8 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     if (argc == 4 && QByteArray(argv[1]) == "--close-at")
         return closeAt(QString::fromLatin1(argv[2]), argv[3]);
+    if (argc == 4 && QByteArray(argv[1]) == "--load-within")
+        return loadWithin(QByteArray(argv[2]).toULongLong(), argv[3]);
     if (argc == 2 && QByteArray(argv[1]) == "--context-menu")
         return printContextMenu();
     WindowTest test;

@@ -24,6 +24,8 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QTimer>
+#include <cstdint>
+#include <utility>
 
 namespace lettriner::ui {
 namespace {
@@ -76,13 +78,16 @@ void Form1::Form_Load() {
     // Let the window and its cover paint before the longest step.
     yieldToEvents();
 
-    const lettriner::WordDatabase database =
+    lettriner::WordDatabase database =
         lettriner::DatenbankEinlesen("DB1.txt", [this] { yieldToEvents(); });
-    lblDBCount_->setText(QString::fromStdU16String(lettriner::databaseCountText(
-                                                       database.highestIndex(), groupSeparator()))
-                             .replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     // The search reads the words prepared with their values; the raw list is not kept.
-    words_ = lettriner::PreparedWords(database, lettriner::BewertungsFeldLaden());
+    words_ = lettriner::PreparedWords(std::move(database), lettriner::BewertungsFeldLaden());
+    // The count of what is searched: a list read whole but too large to
+    // prepare counts as empty.
+    const auto highestIndex = static_cast<std::int64_t>(words_.size()) - 1;
+    lblDBCount_->setText(
+        QString::fromStdU16String(lettriner::databaseCountText(highestIndex, groupSeparator()))
+            .replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
 
     ladenFertig_ = true;
 }

@@ -1,5 +1,6 @@
 // Lettriner: the rack helper's window.
 
+#include "data/program_folder.h"
 #include "ui/main/form1.h"
 #include "ui/main/german_qt_texts.h"
 
@@ -16,7 +17,7 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lettriner"));
     lettriner::ui::installGermanQtTexts(app);
-    lettriner::ui::Form1 form(QCoreApplication::applicationDirPath().toStdU16String());
+    lettriner::ui::Form1 form(lettriner::programFolder());
     form.Form_Load();
     return QApplication::exec();
 }
