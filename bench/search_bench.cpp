@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Search speed on the bundled word list, and the result sort against the
 // literal quadratic one. Run from anywhere: the data comes from the run folder.
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Start-up as a user meets it: whole fresh processes, so that loading the
 # program, mapping the word list and the kernel's page faults all count
 # (the Google Benchmark figures reuse memory already mapped and miss that).

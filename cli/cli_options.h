@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Command-line options of lettriner-cli. Each field option carries the raw
 // text of the matching input field, as if typed into it after start-up; the

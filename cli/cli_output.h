@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Writing a finished search for people (aligned table) and for scripts (TSV,
 // JSON), and the answer to --check.

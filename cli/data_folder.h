@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Where lettriner-cli reads its data files: the folder given with -C, else the
 // current folder when it holds DB1.txt, else the word list of an installed

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // lettriner-cli: the search of the Lettriner window, without a window.
 
 #include "cli/cli_options.h"

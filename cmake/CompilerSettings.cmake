@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Warning and sanitizer flags, attached per target through interface libraries
 # so that third-party code (moc output, GoogleTest macros) is not held to them.
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Hardening for every target, as Debian builds its packages (dpkg-buildflags
 # with hardening=+all): stack protector, fortified C library calls, relocations
 # read-only and bound at start, position-independent executables.

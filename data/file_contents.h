@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A file's bytes, read once and kept for the life of the program: mapped
 // read-only where the system allows, so that the kernel's page cache is the

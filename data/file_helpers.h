@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Whole-file reading and writing and the tagged-line lookup shared by the
 // settings and message files. Nothing here throws or reports: every failure

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Sprachen.txt in the program's folder: one message per tagged line, one TAB
 // field per language (language index i is field i + 1).

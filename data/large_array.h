@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // An exact-size array of plain values, left uninitialised for the code that
 // fills it at once: the per-word arrays of a list of up to millions of words.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The two number patterns the window shows. Separators come from the caller,
 // who knows the user's locale; the core never asks for one.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Reading numbers out of free text, the way every numeric field and data
 // file of the program is read.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The folder the running program lies in, which holds Settings.txt and
 // Sprachen.txt.

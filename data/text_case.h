@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Letter casing as the German game needs it: a-z and ä ö ü pair with A-Z and
 // Ä Ö Ü. Every other character, ß included, stays as it is. A full Unicode

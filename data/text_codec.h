@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Windows-1252, the single-byte code page of every data file the program
 // reads and writes. Each byte is one character and back.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Cutting text at line ends and replacing parts of it. Only the pair CR LF
 // ends a line anywhere in the program; a lone CR or LF is an ordinary character.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // UTF-8 at the program's text edges (command line, terminal, tests); the data
 // files themselves are Windows-1252 (text_codec.h).

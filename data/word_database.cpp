@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "data/word_database.h"
 
 #include "data/large_array.h"

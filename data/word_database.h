@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The word list: the lines of DB1.txt, read once at start-up and never
 // changed. Entries keep their case and spaces; the search upper-cases them.

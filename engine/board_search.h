@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A search with blanks and a board pattern, for the command line: the same
 // field texts, stores, pruning and order as the window's search, each word

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/board_test.h"
 
 #include "data/numeric_value.h"

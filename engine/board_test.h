@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The letter test with blank tiles and a board pattern. A word's letters are
 // covered first by rack tiles (leftmost matching tile), then by the blanks,

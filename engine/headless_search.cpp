@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/headless_search.h"
 
 #include "engine/number_field.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // One search without a window, as the command line, the fuzz targets and the
 // tests run it: the fields start with their design texts, then take the

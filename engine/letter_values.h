@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Letter values: Bewertung1.txt lists the letters, Bewertung2.txt their
 // values line for line; a word is worth the sum of its letters.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/number_field.h"
 
 #include "data/numeric_value.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A text field whose 16-bit value the window keeps current: every change of
 // the text sets the value to the rounded numeric value of the text, unless

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The word list made ready for searching, once, after the word list and the
 // letter values are loaded (neither changes afterwards): for every word the

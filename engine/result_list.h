@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // What a search needs of a result list: add a row, count rows, set a cell,
 // clear. The window's table model implements it; MemoryResultList serves the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The result stores of a search: the bounded main store, pruned to its better
 // half whenever it outgrows the field size, and the unbounded bonus store.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // One search over the whole word list: every word is tested, accepted words
 // go into the main store (pruned when it outgrows the field size) and, when

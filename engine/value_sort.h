@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Sorting a result store by value, best first, in exactly the order of a
 // selection sort that, for each position i, finds the first entry of greatest

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Whether the player can lay a word: the letter test of a search, and the
 // two letter columns of the result lists.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Whether words are in the word list, compared the way the program
 // upper-cases. A word written with SS, as upper-case text often is, also

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The first, cheap part of every letter test: what a word's letter set,
 // value and length alone can tell, true for every word whatever characters

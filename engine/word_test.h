@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The letter test of one search, prepared once from the run's inputs and then
 // applied to every prepared word. Gives exactly what WortPrüfen gives for the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any command line: the parser always answers, what it accepts is what a run
 // can use (blanks 0 to 2, board letters and patterns as the board test takes
 // them), and the accepted options, written out again, read back the same.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Windows-1252 and line cutting: every byte string reads back unchanged, and
 // cutting at CR LF then joining restores the text.
 

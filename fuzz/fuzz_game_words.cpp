@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The filter that turns the system's German word list into the game's, which
 // the package runs as root when it is installed, over any list and any rule
 // files: it ends; it keeps only words of its input (or of the supplement),

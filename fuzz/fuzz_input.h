@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Cuts a fuzzer's byte string into the texts a target needs: pieces separated
 // by the byte 0x1F (which no file or field of the program treats specially),

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Letter tables from two arbitrary files, then words valued against them.
 
 #include "data/text_case.h"

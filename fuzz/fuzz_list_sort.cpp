@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A header click over any rows: the merge sort gives back every row once, and,
 // where the comparison is a strict weak order, in its order and stable (rows
 // that compare alike keep their places). Number cells that read as NaN are

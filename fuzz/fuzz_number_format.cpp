@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The number formats the program writes, read back the way it reads numbers:
 // decimal digits give the same integer, groups are threes with the separator
 // between them, and "0.0" is the value rounded to a tenth.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any text read as a number: never NaN, never a crash, and the 16-bit
 // conversion agrees with the value it converts.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A whole search over an arbitrary word list, letter tables and field texts,
 // checking what must hold whatever the input:
 // - the fast per-word test gives what the literal letter test gives;

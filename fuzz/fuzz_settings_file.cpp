@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Settings.txt with any content, read as start-up reads it: loading always
 // ends; when it rewrites the file, it writes the default line and answers 0;
 // otherwise it leaves the file byte for byte. A language index written by the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tagged-line lookup over arbitrary text and keys, after the collapsing
 // every reader does.
 

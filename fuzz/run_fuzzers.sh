@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Builds the libFuzzer targets (preset "fuzz", clang) and runs each for a
 # bounded time from its seed corpus: every folder of fuzz/corpus/ names one.
 # Findings land in fuzz/findings/.

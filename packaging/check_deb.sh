@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Builds and lints the Debian package, then installs it with apt-get (which
 # pulls in the Qt runtime and wngerman) and checks it as a user meets it:
 #   - the word list was generated at installation, with the full German list;

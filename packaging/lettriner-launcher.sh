@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Starts Lettriner in its data folder: the program reads its word list and
 # letter values from the current folder. Installed under /usr the word list is
 # generated into /var/lib/lettriner; under any other prefix it lies in

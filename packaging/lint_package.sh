@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Builds the Debian package from the release build and checks it without
 # installing it: lintian (no error, no warning), the desktop entry, the
 # AppStream metainfo, and that no word list is shipped.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs what is missing, builds a release and starts Lettriner from its run
 # folder (the program reads its word list from the current folder).
 set -euo pipefail

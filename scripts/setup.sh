@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs the Debian packages the build needs, when missing.
 #   scripts/setup.sh           what building and running the program needs
 #   scripts/setup.sh --tests   also what the tests, sanitizers and fuzzers need

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs what is missing, then checks the formatting and builds and runs
 # every test three ways:
 #   1. the debug build with warnings as errors (GoogleTest and QtTest suites),

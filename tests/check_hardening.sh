@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails when a program lacks the hardening Debian packages get, as Debian's
 # hardening-check sees it: PIE, stack protector, read-only relocations bound
 # at start, and fortified C library calls.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails when a program below the given folders carries a run path with an
 # empty or relative entry: the loader would take libraries from the current
 # folder (or one relative to it), which for Lettriner is the data folder.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Attacks that only show on a real process, for the programs in RUN_DIR:
 #   - a library planted in the data folder is never looked for there;
 #   - a dangling link as DB1.txt creates nothing at its target;

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The window program in a folder whose name is not valid UTF-8 (a Latin-1 "ä",
 # the single byte 0xE4), started from another folder: Settings.txt must land
 # beside the program, never in the current folder.

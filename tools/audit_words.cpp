@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // lettriner-audit-words: checks a generated word list the way a player meets
 // it: the best five words of a fixed set of racks, the whole list, and
 // everyday words that must be there.

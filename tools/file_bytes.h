@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Whole files as bytes, for the data tools (the program itself reads through
 // data/file_helpers.h, with its own failure rules).

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Turning a general German word list into the game's word list: only words a
 // player can lay, each once, written with the game's tiles.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // lettriner-make-data: writes the data files the program ships.
 //   lettriner-make-data words SOURCE RULES OUT
 //                     game word list from a UTF-8 German list, with the rule

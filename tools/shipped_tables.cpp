@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/shipped_tables.h"
 
 #include "data/text_codec.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The small data files the program ships beside its word list, as the
 // Windows-1252 bytes that are written to disk.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // lettriner-render-icon: draws an SVG picture into square PNG files, so that
 // the menu and the software centres get the sizes they ask for.
 //   lettriner-render-icon SVG SIZE OUT.png [SIZE OUT.png]...

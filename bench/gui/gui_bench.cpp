@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // lettriner-gui-bench: how long the window takes to appear and to load, and
 // how long a search takes from Enter until both lists are filled, on the
 // bundled word list with the default texts. Run from anywhere: it works in

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The about box: this build's version, every close only hiding it, the pointer and the links.
 
 #include "ui/about/about_box.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Blanks and board patterns: the per-word judgement case by case (the
 // character-wise test and the prepared one must both give it), a whole
 // search with pruning and the bonus list, and the word check.

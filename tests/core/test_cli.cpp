@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // lettriner-cli: option parsing, and whole runs of the real program over
 // small data files written in Windows-1252 with CR LF line ends.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The data files: whole-file reading and writing, the tagged-line lookup,
 // Settings.txt, Sprachen.txt, the word list and the letter values.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The data tool: the rules that make the game's word list, and the small
 // tables shipped beside it. (lettriner-audit-words checks the list itself.)
 

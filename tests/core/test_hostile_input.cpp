@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files and fields as a careless or hostile user might leave them: huge,
 // binary, unreadable, folders in place of files. Whatever they hold, loading
 // and searching must end normally with the documented result.

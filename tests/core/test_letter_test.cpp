@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The letter test: the literal WortPrüfen case by case, the prepared fast
 // test against it (the same table, then random lists, where the board test
 // with blanks and patterns is also held to its character-wise form),

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The result stores: the value sort (which must give the selection sort's
 // exact order, ties included, since pruning keeps whatever lands in the
 // better half), pruning, finishing, and publishing into a result list.

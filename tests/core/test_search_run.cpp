@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whole search runs over small word lists, with a window that records what
 // the run shows and acts inside the yields the way a user or a timer would.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Code page, casing, numbers out of text, line cutting, number patterns, UTF-8.
 
 #include "data/number_format.h"

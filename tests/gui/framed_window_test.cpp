@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window under a real window manager (run by under_window_manager.sh
 // on a virtual X display): the frame the manager adds is part of the outer
 // size, and the controls keep their places, 15 twips to a pixel.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Runs a Qt test program on a virtual X display under the openbox window
 # manager, so that its windows get a real frame:
 #   tests/gui/under_window_manager.sh PROGRAM [ARGUMENTS...]

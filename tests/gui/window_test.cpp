@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window as a player sees it, driven headless, one table per interaction.
 
 #include "data/number_format.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Memory that runs out right after the word list is read, made real: the
 // address space is capped at what a process holds now plus some room, and a

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Lets GoogleTest print letter-test results by name and store entries by their parts.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The result sort written out literally, quadratic: for each position i, the
 // first entry of greatest value behind i is exchanged with entry i. The fast

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A fresh folder per test, removed afterwards, with helpers to write and read
 // raw bytes, since the program's files are Windows-1252 with CR LF.

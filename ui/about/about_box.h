@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The about box: the program's title and version, a thank-you text and the
 // links to the maker's home page and donation page.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A picture drawn from an SVG resource and stretched to whatever size the
 // widget has, so the about box needs no image-format plugin at run time.

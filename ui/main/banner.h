@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The banner across the top of the window: a picture that opens the about
 // box when clicked and shows a single-line border until the pointer visits it.

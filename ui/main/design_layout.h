@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Where every control of the main window was designed, in twips relative to
 // its container. Start-up moves only the cover, the stop button and the two

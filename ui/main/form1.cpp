@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window's controls as they were designed: places, texts, fonts,
 // tooltips and tab order. Start-up (form1_startup.cpp) then adjusts them.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The main window: the input frame on the left, the result lists on the
 // right, the banner above both, and the green cover that hides the frames

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The search button, the stop button, the progress timer and the result
 // lists' part in a search: showing and hiding the bonus list, sorting on a
 // header click.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Start-up under the loading cover, the cover's dot animation, the window's
 // key preview and pointer effects, and shutdown.
 

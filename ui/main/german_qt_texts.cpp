@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main/german_qt_texts.h"
 
 #include <QCoreApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Qt's own texts (the line edits' context menus, the standard dialog
 // buttons) in German, like the rest of the window, whatever the user's locale.

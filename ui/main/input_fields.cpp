@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main/input_fields.h"
 
 #include "data/numeric_value.h"

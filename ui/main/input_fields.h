@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The input frame's text fields: the three letter fields, which upper-case
 // as the user types and select everything on a click or Ctrl+A, and the two

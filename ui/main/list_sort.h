@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The order of a header click on the result list: ListenVergleich compares
 // two rows by one column, as text (code unit by code unit) or as numbers, and

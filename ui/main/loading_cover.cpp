@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main/loading_cover.h"
 
 #include "ui/main/design_layout.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The green cover that hides both frames while the data files are read: a
 // loading text, a row of points that grows with each tick, and the game's name.

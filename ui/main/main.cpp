@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lettriner: the rack helper's window.
 
 #include "data/program_folder.h"

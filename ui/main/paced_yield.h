@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Deciding cheaply, word by word, when a search should let the event loop
 // run. A pass over the event loop costs far more than testing a word, so the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Borders drawn on whole device pixels. At a fractional scale factor a line
 // one logical pixel wide along a widget's right or bottom edge can fall

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The search's progress bar: a picture box that keeps what was drawn into it
 // (a pixmap repainted on every expose) and is drawn in pixels.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A result list's rows behind a QTableView. The search writes through the
 // ResultList side: rows added and cells set after a clear are staged without

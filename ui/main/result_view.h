@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A result list as the player sees it: a table view that copies its selected
 // rows with Ctrl+C, shows a cut-off cell's whole text as its tooltip, and

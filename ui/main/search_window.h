@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // How a search run reaches the main window: its yields, its progress, the
 // two buttons and the bonus list.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The window's pictures are SVG files in the resource file, drawn with
 // QSvgRenderer so that no image plugin is needed at run time.
