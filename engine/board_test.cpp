@@ -65,15 +65,8 @@ BoardTest::BoardTest(const LetterValueTable& values, std::u16string_view rack,
                      const BoardRules& rules)
     : values_(values), rack_(rack), mandatory_(mandatory), forbidden_(forbidden),
       allowance_(allowance), rules_(rules), maxExtra_(wholeBound(allowance, 0)),
-      rackLength_(static_cast<std::uint32_t>(rack.size())) {
-    std::uint32_t rackLetters = 0;
-    for (const char16_t c : rack_) {
-        const int index = alphabetIndex(c);
-        if (index >= 0) {
-            ++rackCounts_[static_cast<std::size_t>(index)];
-            rackLetters |= 1u << index;
-        }
-    }
+      rackLength_(static_cast<std::uint32_t>(rack.size())), rackCounts_(tileCounts(rack)) {
+    const std::uint32_t rackLetters = letterSet(rack_) & kAlphabetBits;
     for (int index = 0; index < kAlphabetSize; ++index) {
         static constexpr std::u16string_view kLetters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZÄÖÜß";
         letterValues_[static_cast<std::size_t>(index)] =
@@ -151,7 +144,7 @@ BoardVerdict BoardTest::check(const PreparedWords& words, std::size_t index,
     if (mandatoryOutsideAlphabet_ || (filtered_ && !fitsBoard(words, index)))
         return {};
     const std::string_view bytes = words.bytes(index);
-    std::array<std::int32_t, kAlphabetSize> tiles = rackCounts_;
+    TileCounts tiles = rackCounts_;
     std::uint32_t uncovered = 0;
     CheapestLetters cheapest;
     for (std::size_t position = 0; position < bytes.size(); ++position) {

@@ -91,7 +91,7 @@ private:
     std::uint32_t mostUncovered_ = 0; // letters blanks and allowance can cover
     std::uint32_t fixedCount_ = 0;    // letters the pattern fixes
     WordSummaryTest summary_;
-    std::array<std::int32_t, kAlphabetSize> rackCounts_{};
+    TileCounts rackCounts_;
     std::array<double, kAlphabetSize> letterValues_{};
     // Per position, the alphabet index the pattern fixes there (kAlphabetSize
     // for another character), or -1.

@@ -68,6 +68,15 @@ std::uint32_t letterSet(std::u16string_view upperText) {
     return set;
 }
 
+TileCounts tileCounts(std::u16string_view upperRack) {
+    TileCounts counts{};
+    for (const char16_t c : upperRack) {
+        if (const int index = alphabetIndex(c); index >= 0)
+            ++counts[static_cast<std::size_t>(index)];
+    }
+    return counts;
+}
+
 PreparedWords::PreparedWords(WordDatabase database, const LetterValueTable& values)
     : database_(std::move(database)), letterValues_(values) {
     try {

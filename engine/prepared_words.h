@@ -44,6 +44,11 @@ inline constexpr std::uint32_t kAlphabetBits = kOtherBit - 1;
 
 [[nodiscard]] std::uint32_t letterSet(std::u16string_view upperText);
 
+// How many tiles of each alphabet letter an upper-cased rack holds; other
+// characters count nowhere.
+using TileCounts = std::array<std::int32_t, kAlphabetSize>;
+[[nodiscard]] TileCounts tileCounts(std::u16string_view upperRack);
+
 class PreparedWords {
 public:
     struct Entry {

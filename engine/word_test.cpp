@@ -8,15 +8,9 @@ namespace lettriner {
 WordTest::WordTest(std::u16string_view rack, std::u16string_view mandatory,
                    std::u16string_view forbidden, double allowance)
     : rack_(rack), mandatory_(mandatory), forbidden_(forbidden), allowance_(allowance),
-      maxExtra_(wholeBound(allowance, 0)), rackLength_(static_cast<std::uint32_t>(rack.size())) {
-    std::uint32_t rackLetters = 0;
-    for (const char16_t c : rack_) {
-        const int index = alphabetIndex(c);
-        if (index >= 0) {
-            ++rackCounts_[static_cast<std::size_t>(index)];
-            rackLetters |= 1u << index;
-        }
-    }
+      maxExtra_(wholeBound(allowance, 0)), rackLength_(static_cast<std::uint32_t>(rack.size())),
+      rackCounts_(tileCounts(rack)) {
+    const std::uint32_t rackLetters = letterSet(rack_) & kAlphabetBits;
     mandatoryOutsideAlphabet_ = (letterSet(mandatory_) & kOtherBit) != 0;
     // Integer forms of the real comparisons, exact for integer lengths and
     // counts: length <= 2 or length <= rack + allowance; extra letters
@@ -41,7 +35,7 @@ CheckResult WordTest::checkTheLongWay(const PreparedWords& words, std::size_t in
 
 CheckResult WordTest::cover(const PreparedWords& words, std::size_t index,
                             std::uint32_t length) const {
-    std::array<std::int32_t, kAlphabetSize> tiles = rackCounts_;
+    TileCounts tiles = rackCounts_;
     std::uint32_t extra = 0;
     for (const char byte : words.bytes(index)) {
         if (--tiles[static_cast<std::size_t>(words.alphabetIndexOfByte(byte))] < 0)

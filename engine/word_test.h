@@ -53,7 +53,7 @@ private:
     std::uint32_t rackLength_;
     bool mandatoryOutsideAlphabet_ = false;
     WordSummaryTest summary_;
-    std::array<std::int32_t, kAlphabetSize> rackCounts_{};
+    TileCounts rackCounts_;
 };
 
 } // namespace lettriner

@@ -41,13 +41,13 @@ void checkSortedBestFirst(const MemoryResultList& list) {
 }
 
 // Blanks, lengths and pattern from one piece, starts and ends from two more.
-BoardRules boardRules(const std::u16string& spec, const std::u16string& starts,
+BoardRules boardRules(const std::u16string& board, const std::u16string& starts,
                       const std::u16string& ends) {
     BoardRules rules;
-    rules.blanks = spec.size() > 0 ? spec[0] % (kMostBlanks + 1) : 0;
-    rules.minLength = spec.size() > 1 ? spec[1] % 8u : 0u;
-    rules.maxLength = spec.size() > 2 && spec[2] % 2 == 0 ? spec[2] % 20u : UINT32_MAX;
-    rules.pattern = spec.size() > 3 ? toUpper(spec.substr(3)) : u"";
+    rules.blanks = board.size() > 0 ? board[0] % (kMostBlanks + 1) : 0;
+    rules.minLength = board.size() > 1 ? board[1] % 8u : 0u;
+    rules.maxLength = board.size() > 2 && board[2] % 2 == 0 ? board[2] % 20u : UINT32_MAX;
+    rules.pattern = board.size() > 3 ? toUpper(board.substr(3)) : u"";
     rules.starts = toUpper(starts);
     rules.ends = toUpper(ends);
     return rules;
