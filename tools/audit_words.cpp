@@ -61,7 +61,7 @@ int main(int argc, char** argv) {
     FormSet vowelless;
     for (const std::u16string& word :
          tools::ruleFileWords(fileBytes(std::string(argv[3]) + "/vowelless.txt")))
-        vowelless.insert(toUpper(word));
+        vowelless.insert(toUpper(tools::writtenForTheGame(word)));
     const auto fails = [&](std::u16string_view word) {
         const std::u16string upper = toUpper(word);
         return upper.size() < 2 || (!tools::hasVowel(upper) && !vowelless.contains(upper)) ||

@@ -77,6 +77,11 @@ std::vector<std::u16string> ruleFileWords(std::string_view utf8File) {
 GameWordList gameWords(std::string_view utf8List, const WordListRules& rules) {
     GameWordList list;
     std::unordered_set<std::u16string> seen;
+    // Compared as the game writes them (ß as ss): a word kept for being on the
+    // list is still on it once written, so the list filtered again keeps it.
+    std::unordered_set<std::u16string> vowelless;
+    for (const std::u16string& word : rules.vowelless)
+        vowelless.insert(writtenForTheGame(toLower(word)));
     const auto judge = [&](std::u16string_view spelling, bool fromSource) {
         if (fromSource && rules.exclusions.contains(std::u16string(spelling)))
             return Outcome::Excluded;
@@ -87,9 +92,9 @@ GameWordList gameWords(std::string_view utf8List, const WordListRules& rules) {
             return Outcome::OneLetter;
         if (hasSeveralCapitals(word))
             return Outcome::SeveralCapitals;
-        if (!hasVowel(word) && !rules.vowelless.contains(toLower(word)))
-            return Outcome::NoVowel;
         std::u16string written = replaceAll(word, u"ß", u"ss");
+        if (!hasVowel(word) && !vowelless.contains(toLower(written)))
+            return Outcome::NoVowel;
         if (!seen.insert(toUpper(written)).second)
             return Outcome::Duplicate;
         list.words.push_back(std::move(written));

@@ -31,8 +31,8 @@ namespace lettriner::tools {
 // The word lists that steer the rules, as read from their files.
 struct WordListRules {
     std::unordered_set<std::u16string> exclusions; // names, places, abbreviations: exact spelling
-    std::unordered_set<std::u16string> vowelless;  // allowed without a vowel, lower-case
-    std::vector<std::u16string> supplement;        // words the source lacks
+    std::unordered_set<std::u16string> vowelless; // allowed without a vowel; case and ß or ss alike
+    std::vector<std::u16string> supplement;       // words the source lacks
 };
 
 // Lines of a UTF-8 rules file: "#" starts a comment, blanks around a word and
