@@ -24,14 +24,10 @@ check() {
     return 1
 }
 status=0
-check --nofortify "$@" || status=1
-# hardening-check sees fortification only in a call whose buffer size the
-# compiler knows (a __*_chk import). A program whose only such calls copy into
-# heap memory inside the C++ library gets "only unprotected functions found"
-# however it was built, so the flags, which apply to every program alike, are
-# checked on the first, which has such calls (lettriner-cli's formatting).
 if [ "$fortify" = yes ]; then
-    check "$1" || status=1
+    check "$@" || status=1
+else
+    check --nofortify "$@" || status=1
 fi
 [ "$status" -ne 0 ] || echo "hardened: $*"
 exit "$status"

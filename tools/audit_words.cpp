@@ -17,6 +17,7 @@
 #include "tools/game_words.h"
 #include "tools/shipped_tables.h"
 
+#include <cstdio>
 #include <iostream>
 #include <random>
 #include <string>
@@ -115,8 +116,8 @@ int main(int argc, char** argv) {
             }
         }
     }
-    std::cout << "lettriner-audit-words: " << database.highestIndex() << " words and the best "
-              << "five words of " << kRacks << " racks checked, " << failures
-              << " a player could not lay\n";
+    std::printf("lettriner-audit-words: %lld words and the best five words of %d racks checked, "
+                "%zu a player could not lay\n",
+                static_cast<long long>(database.highestIndex()), kRacks, failures);
     return failures == 0 ? 0 : 1;
 }

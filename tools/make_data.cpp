@@ -12,6 +12,7 @@
 #include "tools/game_words.h"
 #include "tools/shipped_tables.h"
 
+#include <cstdio>
 #include <fstream>
 #include <iostream>
 #include <string>
@@ -24,7 +25,7 @@ bool writeFile(const std::string& path, const std::string& bytes) {
     std::ofstream out(path, std::ios::binary | std::ios::trunc);
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     if (!out) {
-        std::cerr << "lettriner-make-data: cannot write " << path << '\n';
+        std::fprintf(stderr, "lettriner-make-data: cannot write %s\n", path.c_str());
         return false;
     }
     return true;
@@ -34,15 +35,18 @@ int makeWords(const std::string& source, const std::string& rulesFolder,
               const std::string& target) {
     const std::optional<std::string> list = lettriner::tools::fileBytes(source);
     if (!list) {
-        std::cerr << "lettriner-make-data: the German word list " << source
-                  << " is missing; install the Debian package 'wngerman'\n";
+        std::fprintf(stderr,
+                     "lettriner-make-data: the German word list %s is missing; install the "
+                     "Debian package 'wngerman'\n",
+                     source.c_str());
         return 1;
     }
     const auto ruleWords = [&rulesFolder](const char* name, std::vector<std::u16string>& words) {
         const std::optional<std::string> bytes =
             lettriner::tools::fileBytes(rulesFolder + "/" + name);
         if (!bytes) {
-            std::cerr << "lettriner-make-data: cannot read " << rulesFolder << '/' << name << '\n';
+            std::fprintf(stderr, "lettriner-make-data: cannot read %s/%s\n", rulesFolder.c_str(),
+                         name);
             return false;
         }
         words = lettriner::tools::ruleFileWords(*bytes);
@@ -59,7 +63,7 @@ int makeWords(const std::string& source, const std::string& rulesFolder,
         rules.vowelless.insert(lettriner::toLower(word));
     const auto words = lettriner::tools::gameWords(*list, rules);
     if (words.words.empty()) {
-        std::cerr << "lettriner-make-data: " << source << " holds no usable words\n";
+        std::fprintf(stderr, "lettriner-make-data: %s holds no usable words\n", source.c_str());
         return 1;
     }
     std::cout << "lettriner-make-data: " << target << " from " << source << ":\n"

@@ -12,7 +12,7 @@
 int main(int argc, char** argv) {
     // Answered before any window or display is needed.
     if (argc == 2 && std::strcmp(argv[1], "--version") == 0) {
-        std::puts("lettriner " LETTRINER_VERSION);
+        std::printf("lettriner %s\n", LETTRINER_VERSION);
         return 0;
     }
     QApplication app(argc, argv);
