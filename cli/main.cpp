@@ -19,6 +19,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <iostream>
+#include <new>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -48,7 +49,9 @@ bool write(const std::string& text) {
 
 } // namespace
 
-int main(int argc, char** argv) {
+// Memory that runs out leaves a list empty; should even the report not fit,
+// the program says so instead of aborting.
+int main(int argc, char** argv) try {
     using namespace lettriner;
     const cli::ParseResult parsed = cli::parseOptions({argv + 1, argv + argc});
     if (!parsed.error.empty()) {
@@ -121,4 +124,7 @@ int main(int argc, char** argv) {
         break;
     }
     return write(cli::tableText(report)) ? 0 : 1;
+} catch (const std::bad_alloc&) {
+    std::fputs("lettriner-cli: out of memory\n", stderr);
+    return 1;
 }

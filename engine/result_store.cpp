@@ -5,12 +5,24 @@
 #include "engine/word_check.h"
 
 #include <algorithm>
+#include <new>
 
 namespace lettriner {
 
 void ResultStore::reset() {
     entries_.clear();
     entries_.push_back({kStartingEntry, 0});
+    full_ = false;
+}
+
+void ResultStore::append(std::uint32_t word, std::int16_t value) {
+    if (full_)
+        return;
+    try {
+        entries_.push_back({word, value});
+    } catch (const std::bad_alloc&) {
+        full_ = true; // every later attempt would fail too, one system call each
+    }
 }
 
 void SchlechteHälfteLöschen(ResultStore& Feld, NumberField& minimumField) {
@@ -23,7 +35,12 @@ void SchlechteHälfteLöschen(ResultStore& Feld, NumberField& minimumField) {
 
 void finishStore(ResultStore& Feld) {
     std::vector<StoreEntry>& entries = Feld.entries();
-    FeldNachWertSortieren(entries);
+    try {
+        FeldNachWertSortieren(entries);
+    } catch (const std::bad_alloc&) {
+        entries = std::vector<StoreEntry>(); // unsorted, its best words would not come first
+        return;
+    }
     const auto start = std::find_if(entries.begin(), entries.end(), [](const StoreEntry& entry) {
         return entry.word == kStartingEntry;
     });
@@ -85,13 +102,17 @@ void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::int
 
 void publishStore(const ResultStore& Feld, const PreparedWords& words, std::u16string_view rack,
                   ResultList& list) {
-    const std::vector<std::u16string> texts = storeWords(Feld, words);
-    ListeSpalteFüllen(list, 0, texts);
-    ListeSpalteFüllen(list, 1, WortLängenFeld(texts));
-    ListeSpalteFüllen(list, 2, WortWertFeld(words.values(), texts));
-    ListeSpalteFüllen(list, 3, ZusBuchstabenFeld(texts, rack));
-    ListeSpalteFüllen(list, 4, ÜbrigeBuchstFeld(texts, rack));
-    list.publishFinished();
+    try {
+        const std::vector<std::u16string> texts = storeWords(Feld, words);
+        ListeSpalteFüllen(list, 0, texts);
+        ListeSpalteFüllen(list, 1, WortLängenFeld(texts));
+        ListeSpalteFüllen(list, 2, WortWertFeld(words.values(), texts));
+        ListeSpalteFüllen(list, 3, ZusBuchstabenFeld(texts, rack));
+        ListeSpalteFüllen(list, 4, ÜbrigeBuchstFeld(texts, rack));
+        list.publishFinished();
+    } catch (const std::bad_alloc&) {
+        list.clear(); // half-filled rows would show words without their values
+    }
 }
 
 } // namespace lettriner

@@ -24,7 +24,9 @@ public:
 
     // The starting entry alone.
     void reset();
-    void append(std::uint32_t word, std::int16_t value) { entries_.push_back({word, value}); }
+    // Once memory runs out, the store keeps what it holds and takes no more:
+    // a hostile list can make every word a bonus word.
+    void append(std::uint32_t word, std::int16_t value);
     // Number of entries less one, the starting entry included while it is there.
     [[nodiscard]] std::int64_t highestIndex() const {
         return static_cast<std::int64_t>(entries_.size()) - 1;
@@ -34,13 +36,15 @@ public:
 
 private:
     std::vector<StoreEntry> entries_;
+    bool full_ = false;
 };
 
 // Sorts the store best first, keeps entries 0 to h div 2 and writes the value
 // of the last kept entry into the minimum-value field (whose value follows).
 void SchlechteHälfteLöschen(ResultStore& Feld, NumberField& minimumField);
 
-// Sorts best first and removes the starting entry wherever it landed.
+// Sorts best first and removes the starting entry wherever it landed; empties
+// the store when memory for the sort runs out.
 void finishStore(ResultStore& Feld);
 
 // The store's words (upper-cased, as tested), entry by entry.
@@ -59,6 +63,7 @@ void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::int
 
 // Fills the five columns in order: word, length, value, needed letters and
 // left-over letters, the last two against `rack` (upper-cased, spaces kept).
+// When memory runs out on the way, the list is left empty.
 void publishStore(const ResultStore& Feld, const PreparedWords& words, std::u16string_view rack,
                   ResultList& list);
 

@@ -165,5 +165,23 @@ TEST_F(HostileInput, MemoryShortAfterReadingGivesAnEmptyListThatSearches) {
     }
 }
 
+// Every line a bonus word: the bonus store outgrows the room left after the
+// list, and so does its sort. The search still counts every word.
+TEST_F(HostileInput, BonusListBeyondMemoryIsLeftEmpty) {
+#if defined(__SANITIZE_ADDRESS__)
+    GTEST_SKIP() << "the sanitizer's operator new aborts where the C library's throws";
+#endif
+    testing::writeCappedList("DB1.txt");
+    const std::uint64_t room = testing::kMemoryRooms.back().room;
+    const std::string counted = "\nbonus\t0\nfound\t" + std::to_string(testing::kCappedListLines);
+    const std::vector<const char*> window = {"--tsv", "--rack=A", "--min=0"};
+    std::vector<const char*> board = window;
+    board.push_back("--pattern=.");
+    for (const auto& arguments : {window, board}) {
+        EXPECT_EQ(runCliWithin(room, arguments), 0) << arguments.size();
+        EXPECT_NE(folder.read("out.txt").find(counted), std::string::npos) << arguments.size();
+    }
+}
+
 } // namespace
 } // namespace lettriner

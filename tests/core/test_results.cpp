@@ -14,6 +14,7 @@
 #include "support/literal_selection_sort.h"
 
 #include <gtest/gtest.h>
+#include <new>
 #include <random>
 #include <string>
 #include <tuple>
@@ -129,6 +130,22 @@ TEST(ListeSpalteFuellen, AddsRowsForColumnZeroAndFillsOthersOnlyWhenCountsMatch)
     EXPECT_EQ(list.rows(), filled);
 }
 
+// A list with room for two rows.
+class TwoRowList final : public ResultList {
+public:
+    void addRow(std::u16string text) override {
+        if (rows.rowCount() == 2)
+            throw std::bad_alloc();
+        rows.addRow(std::move(text));
+    }
+    [[nodiscard]] std::int64_t rowCount() const override { return rows.rowCount(); }
+    void setSubItem(std::int64_t row, int column, std::u16string text) override {
+        rows.setSubItem(row, column, std::move(text));
+    }
+    void clear() override { rows.clear(); }
+    MemoryResultList rows;
+};
+
 TEST(PublishStore, WritesTheFiveColumnsInStoreOrderAgainstTheGivenRack) {
     LetterValueTable values;
     for (const auto& [letter, value] :
@@ -142,6 +159,9 @@ TEST(PublishStore, WritesTheFiveColumnsInStoreOrderAgainstTheGivenRack) {
     EXPECT_EQ(list.rows(), (Rows{{u"FEE", u"3", u"4", u"e", u"x a"},
                                  {u"BÄR", u"3", u"10", u"bär", u"fex a"},
                                  {u"", u"0", u"0", u"", u"fex a"}}));
+    TwoRowList tooSmall; // no half list: words without their values
+    publishStore(store, words, u"FEX A", tooSmall);
+    EXPECT_EQ(tooSmall.rowCount(), 0);
 }
 
 } // namespace
