@@ -70,7 +70,7 @@ TEST(BoardTest, BlanksAndPatternsCoverLettersAsThePlayerWould) {
         {"a blank cannot lay a forbidden letter", u"HAUS", 1, 0, u"",       u"T",  0,  u"HAUT",   kNo,    0,  u"",    u"",  u""},
         {"pattern letters come from the board",   u"BET",  0, 0, u"..S.E",  u"",   0,  u"BESTE",  kBonus, 7,  u"se",  u"",  u""},
         {"a rack tile for a board letter stays",  u"HAUS", 0, 0, u"...S",   u"",   0,  u"HAUS",   kYes,   5,  u"s",   u"s", u""},
-        {"pattern without any rack letter",       u"",     0, 0, u"ZU",     u"",   0,  u"ZU",     kBonus, 4,  u"zu",  u"",  u""},
+        {"pattern without any rack letter",       u"",     0, 0, u"ZA",     u"",   0,  u"ZA",     kBonus, 4,  u"za",  u"",  u""},
         {"pattern with a blank",                  u"BE",   1, 0, u"..S.E",  u"",   0,  u"BESTE",  kBonus, 6,  u"se",  u"",  u"t"},
         {"pattern letter differs",                u"BET",  0, 0, u"..S.E",  u"",   0,  u"BETTE",  kNo,    0,  u"",    u"",  u""},
         {"pattern is the exact length",           u"BETN", 0, 0, u"..S.E",  u"",   0,  u"BESTEN", kNo,    0,  u"",    u"",  u""},

@@ -137,6 +137,9 @@ TEST_F(Cli, PrintsTheExactResultAsTsv) {
          "bonus\t1\nB\xC3\x84R\t3\t10\t\t\nfound\t3\nmin\t0\n"},
         {{"--field-size", "0", "--min=40000"},
          "main\t1\nHAFER\t5\t9\t\tezb\nbonus\t0\nfound\t2\nmin\t9\n"},
+        // A board option alone brings no blank: TEE would need one for its second E.
+        {{"--rack=test", "--starts=T", "--min=0", "--forbidden="},
+         "main\t1\nTEST\t4\t2\t\t\nbonus\t1\nTEST\t4\t2\t\t\nfound\t1\nmin\t0\n"},
     };
     for (const auto& [options, expected] : cases) {
         std::vector<std::string> arguments = {"--tsv"};

@@ -23,7 +23,7 @@ TEST(WordRules, EachFilterOnTellingWords) {
         {u"voilà", u"voila"}, {u"ÉCLAIR", u"ECLAIR"}, {u"Übel", u"Übel"},     {u"Maß", u"Maß"}};
     for (const auto& [word, plain] : accents)
         EXPECT_EQ(withoutAccents(word), plain);
-    for (const std::u16string_view word : {u"Haus", u"äöüÄÖÜß", u"xy"})
+    for (const std::u16string_view word : {u"Haus", u"äöüÄÖÜß", u"xyz", u"AZ"})
         EXPECT_TRUE(hasOnlyGameLetters(word)) << toUtf8(word);
     for (const std::u16string_view word : {u"A4", u"E-Mail", u"George's", u"zwei Wörter", u"Café"})
         EXPECT_FALSE(hasOnlyGameLetters(word)) << toUtf8(word);
