@@ -309,25 +309,29 @@ private slots:
     }
 
     void headerClicks_data() {
+        QTest::addColumn<QString>("rows"); // word length value, comma-separated
         QTest::addColumn<QList<int>>("clicks");
-        QTest::addColumn<QString>("order"); // empty: clicked on an empty list
+        QTest::addColumn<QString>("order");
         QTest::addColumn<int>("direction");
+        const QString six = "HARN 4 5, RAHMEN 6 9, ÄHRE 4 12, ZEBRA 5 7, MEHR 4 7, abend 5 9";
         // clang-format off
-        QTest::newRow("Wortwert once: highest first")     << QList<int>{2}    << "ÄHRE RAHMEN abend ZEBRA MEHR HARN" << 1;
-        QTest::newRow("Wortwert twice: lowest first")     << QList<int>{2, 2} << "HARN ZEBRA MEHR RAHMEN abend ÄHRE" << 0;
-        QTest::newRow("Wortlänge next: direction shared") << QList<int>{2, 1} << "ÄHRE MEHR HARN abend ZEBRA RAHMEN" << 0;
-        QTest::newRow("Wort twice: capitals, small, Ä")   << QList<int>{0, 0} << "HARN MEHR RAHMEN ZEBRA abend ÄHRE" << 0;
-        QTest::newRow("empty list: a click still flips")  << QList<int>{3}    << ""                                  << 1;
+        QTest::newRow("Wortwert once: highest first")     << six << QList<int>{2}    << "ÄHRE RAHMEN abend ZEBRA MEHR HARN" << 1;
+        QTest::newRow("Wortwert twice: lowest first")     << six << QList<int>{2, 2} << "HARN ZEBRA MEHR RAHMEN abend ÄHRE" << 0;
+        QTest::newRow("Wortlänge next: direction shared") << six << QList<int>{2, 1} << "ÄHRE MEHR HARN abend ZEBRA RAHMEN" << 0;
+        QTest::newRow("Wort twice: capitals, small, Ä")   << six << QList<int>{0, 0} << "HARN MEHR RAHMEN ZEBRA abend ÄHRE" << 0;
+        QTest::newRow("two rows are sorted too")          << "HARN 4 5, MEHR 4 7" << QList<int>{2} << "MEHR HARN" << 1;
+        QTest::newRow("empty list: a click still flips")  << ""  << QList<int>{3}    << ""                                  << 1;
         // clang-format on
     }
     void headerClicks() {
+        QFETCH(QString, rows);
         QFETCH(QList<int>, clicks);
         QFETCH(QString, order);
         QFETCH(int, direction);
         LoadedWindow w;
         ResultTableModel& list = w.form.mainList();
-        if (!order.isEmpty())
-            fillRows(list, "HARN 4 5, RAHMEN 6 9, ÄHRE 4 12, ZEBRA 5 7, MEHR 4 7, abend 5 9");
+        if (!rows.isEmpty())
+            fillRows(list, rows);
         QHeaderView* header = w.get<QTableView>("ListView1")->horizontalHeader();
         for (const int column : clicks)
             QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
