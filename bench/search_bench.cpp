@@ -4,7 +4,6 @@
 
 #include "data/file_helpers.h"
 #include "data/word_database.h"
-#include "engine/board_search.h"
 #include "engine/headless_search.h"
 #include "engine/letter_values.h"
 #include "engine/prepared_words.h"
@@ -84,31 +83,32 @@ void BM_Search_bonusHeavy(benchmark::State& state) {
 }
 BENCHMARK(BM_Search_bonusHeavy)->Name("BM_Search/bonusHeavy")->Unit(benchmark::kMillisecond);
 
-// The command line's board search on the default fields: blanks lower the
-// summary test's reach (no value bound, more letters may be missing).
-void runBoardSearch(benchmark::State& state, const BoardRules& rules) {
+// The command line's search with blanks or a pattern on the default fields:
+// blanks lower the summary test's reach (no value bound, more letters may be
+// missing).
+void runTileSearch(benchmark::State& state, const TileRules& rules) {
     const PreparedWords& words = bundledList().words;
-    BoardOutcome outcome;
+    HeadlessOutcome outcome;
     for (auto _ : state) {
-        outcome = searchOnBoard(words, {}, rules);
-        benchmark::DoNotOptimize(outcome.mainRows.size());
+        outcome = searchWithoutWindow(words, {}, rules);
+        benchmark::DoNotOptimize(outcome.mainList.rowCount());
     }
     state.counters["found"] = static_cast<double>(outcome.found);
-    state.counters["bonus"] = static_cast<double>(outcome.bonusRows.size());
+    state.counters["bonus"] = static_cast<double>(outcome.bonusList.rowCount());
 }
 
-void BM_BoardSearch_blanks(benchmark::State& state) {
-    runBoardSearch(state, {static_cast<int>(state.range(0)), u"", u"", u"", 0, UINT32_MAX});
+void BM_TileSearch_blanks(benchmark::State& state) {
+    runTileSearch(state, {static_cast<int>(state.range(0)), u"", u"", u"", 0, UINT32_MAX});
 }
-BENCHMARK(BM_BoardSearch_blanks)
-    ->Name("BM_BoardSearch/blanks")
+BENCHMARK(BM_TileSearch_blanks)
+    ->Name("BM_TileSearch/blanks")
     ->DenseRange(0, 2)
     ->Unit(benchmark::kMillisecond);
 
-void BM_BoardSearch_pattern(benchmark::State& state) {
-    runBoardSearch(state, {0, u"..S...", u"", u"", 0, UINT32_MAX});
+void BM_TileSearch_pattern(benchmark::State& state) {
+    runTileSearch(state, {0, u"..S...", u"", u"", 0, UINT32_MAX});
 }
-BENCHMARK(BM_BoardSearch_pattern)->Name("BM_BoardSearch/pattern")->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_TileSearch_pattern)->Name("BM_TileSearch/pattern")->Unit(benchmark::kMillisecond);
 
 // Values in a narrow range, so that most of them tie.
 std::vector<StoreEntry> randomStore(std::size_t size) {

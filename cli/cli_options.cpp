@@ -3,8 +3,8 @@
 
 #include "data/text_case.h"
 #include "data/utf8.h"
-#include "engine/board_test.h"
 #include "engine/prepared_words.h"
+#include "engine/tile_test.h"
 
 #include <array>
 #include <charconv>

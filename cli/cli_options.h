@@ -2,7 +2,7 @@
 #pragma once
 // Command-line options of lettriner-cli. Each field option carries the raw
 // text of the matching input field, as if typed into it after start-up; the
-// board options are checked here, so a run gets only valid ones.
+// tile options are checked here, so a run gets only valid ones.
 
 #include <cstdint>
 #include <optional>
@@ -19,7 +19,8 @@ struct Options {
     std::optional<std::string> minimum;
     std::optional<std::string> fieldSize;
     std::optional<std::string> directory; // -C
-    // Board options, upper-cased; unset or empty when not given.
+    // Tile options (blanks and letters on the board), upper-cased; unset or
+    // empty when not given.
     std::optional<int> blanks;
     std::u16string pattern;
     std::u16string starts;
@@ -32,8 +33,8 @@ struct Options {
     bool help = false;
     bool version = false;
 
-    // Any board option given: the search then runs with them.
-    [[nodiscard]] bool onBoard() const {
+    // Any tile option given: the search then runs with them.
+    [[nodiscard]] bool usesTiles() const {
         return blanks || !pattern.empty() || !starts.empty() || !ends.empty() || minLength ||
                maxLength;
     }

@@ -1,238 +1,147 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/cli_output.h"
 
+#include "cli/json_writer.h"
+#include "cli/text_table.h"
 #include "data/number_format.h"
 #include "data/utf8.h"
-#include "engine/search_run.h"
+#include "display/result_texts.h"
 
-#include <algorithm>
 #include <array>
-#include <charconv>
-#include <nlohmann/json.hpp>
 #include <string_view>
 
 namespace lettriner::cli {
 namespace {
 
-constexpr std::array<std::u16string_view, 6> kCaptions = {
-    u"Wort", u"Wortlänge", u"Wortwert", u"Benötigte", u"Übrigbleibende", u"Blanko"};
-constexpr std::array<std::string_view, 6> kJsonKeys = {"word",   "length",    "value",
-                                                       "needed", "left_over", "blanks"};
-constexpr std::size_t kLengthColumn = 1;
-constexpr std::size_t kValueColumn = 2;
+constexpr std::array<std::string_view, kColumnsWithBlanks> kJsonKeys = {
+    "word", "length", "value", "needed", "left_over", "blanks"};
 
-bool numericColumn(std::size_t column) {
-    return column == kLengthColumn || column == kValueColumn;
+std::size_t columnCount(const Report& report) {
+    return report.blankColumn ? kColumnsWithBlanks : kResultColumns;
 }
 
-std::vector<std::u16string> captions(std::size_t count) {
-    return {kCaptions.begin(), kCaptions.begin() + static_cast<std::ptrdiff_t>(count)};
-}
-
-std::vector<Report::Row> rowsOf(const MemoryResultList& list) {
-    std::vector<Report::Row> rows;
-    rows.reserve(list.rows().size());
-    for (const MemoryResultList::Row& row : list.rows())
-        rows.emplace_back(row.begin(), row.end());
-    return rows;
-}
-
-std::vector<Report::Row> rowsOf(const std::vector<BoardRow>& boardRows, bool blankColumn) {
-    std::vector<Report::Row> rows;
-    rows.reserve(boardRows.size());
-    for (const BoardRow& row : boardRows) {
-        Report::Row cells = {row.word, decimalText(static_cast<std::int64_t>(row.word.size())),
-                             decimalText(row.value), row.letters.needed, row.letters.leftOver};
-        if (blankColumn)
-            cells.push_back(row.letters.blanks);
-        rows.push_back(std::move(cells));
-    }
-    return rows;
-}
-
-std::string escapeCell(std::u16string_view cell) {
-    std::string out;
-    for (const char c : toUtf8(cell)) {
-        switch (c) {
-        case '\t':
-            out += "\\t";
-            break;
-        case '\r':
-            out += "\\r";
-            break;
-        case '\n':
-            out += "\\n";
-            break;
-        case '\\':
-            out += "\\\\";
-            break;
-        default:
-            out += c;
-        }
-    }
-    return out;
-}
-
-void appendTsvRows(std::string& out, const char* name, const std::vector<Report::Row>& rows) {
-    out += name;
-    out += '\t';
-    out += std::to_string(rows.size());
-    out += '\n';
-    for (const Report::Row& row : rows) {
-        for (std::size_t column = 0; column < row.size(); ++column) {
-            if (column > 0)
-                out += '\t';
-            out += escapeCell(row[column]);
-        }
-        out += '\n';
-    }
-}
-
-// Terminal cells: control characters would break the table, so they show as "?".
-std::u16string printable(std::u16string_view cell) {
-    std::u16string text(cell);
-    std::replace_if(
-        text.begin(), text.end(), [](char16_t c) { return c < 0x20 || c == 0x7F; }, u'?');
-    return text;
-}
-
-void appendTable(std::string& out, const std::vector<std::u16string>& header,
-                 const std::vector<Report::Row>& rows, std::vector<bool> rightAligned) {
-    std::vector<std::size_t> widths(header.size());
-    for (std::size_t column = 0; column < header.size(); ++column)
-        widths[column] = header[column].size();
-    for (const Report::Row& row : rows) {
-        for (std::size_t column = 0; column < header.size(); ++column)
-            widths[column] = std::max(widths[column], row[column].size());
-    }
-    const auto appendRow = [&](const Report::Row& cells) {
-        std::u16string line;
-        for (std::size_t column = 0; column < header.size(); ++column) {
-            const std::u16string cell = printable(cells[column]);
-            const std::u16string padding(widths[column] - cell.size(), u' ');
-            if (column > 0)
-                line += u"  ";
-            line += rightAligned[column] ? padding + cell : cell + padding;
-        }
-        while (!line.empty() && line.back() == u' ')
-            line.pop_back();
-        out += toUtf8(line);
-        out += '\n';
+CellText cellsOf(const std::vector<ResultRow>& rows) {
+    return [&rows](std::size_t row, std::size_t column) {
+        return cellText(rows[row], static_cast<int>(column));
     };
-    appendRow(header);
-    for (const Report::Row& row : rows)
-        appendRow(row);
 }
 
-void appendResultTable(std::string& out, const Report& report,
-                       const std::vector<Report::Row>& rows) {
-    std::vector<bool> rightAligned(report.captions.size());
-    for (std::size_t column = 0; column < rightAligned.size(); ++column)
-        rightAligned[column] = numericColumn(column);
-    appendTable(out, report.captions, rows, rightAligned);
-}
-
-std::int64_t numberIn(std::u16string_view cell) {
-    const std::string text = toUtf8(cell);
-    std::int64_t number = 0;
-    std::from_chars(text.data(), text.data() + text.size(), number);
-    return number;
-}
-
-nlohmann::ordered_json jsonRows(const std::vector<Report::Row>& rows) {
-    nlohmann::ordered_json array = nlohmann::ordered_json::array();
-    for (const Report::Row& row : rows) {
-        nlohmann::ordered_json object = nlohmann::ordered_json::object();
-        for (std::size_t column = 0; column < row.size(); ++column) {
-            const std::string key(kJsonKeys[column]);
-            if (numericColumn(column))
-                object[key] = numberIn(row[column]);
-            else
-                object[key] = toUtf8(row[column]);
-        }
-        array.push_back(std::move(object));
+void writeResultTable(const Report& report, const std::vector<ResultRow>& rows, OutputSink& out) {
+    std::vector<std::u16string_view> captions;
+    std::vector<bool> rightAligned;
+    for (std::size_t column = 0; column < columnCount(report); ++column) {
+        captions.push_back(columnCaption(static_cast<int>(column)));
+        rightAligned.push_back(isNumberColumn(static_cast<int>(column)));
     }
-    return array;
+    writeAlignedTable(out, captions, rightAligned, rows.size(), cellsOf(rows));
 }
 
-std::string jsonDocument(const nlohmann::ordered_json& document) {
-    // Our UTF-8 is always valid; replacing is the safe answer should it not be.
-    std::string text =
-        document.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
-    text += '\n';
-    return text;
+void writeJsonRows(const Report& report, const std::vector<ResultRow>& rows, JsonWriter& json) {
+    json.beginArray();
+    for (const ResultRow& row : rows) {
+        json.beginObject();
+        for (std::size_t column = 0; column < columnCount(report); ++column) {
+            json.key(kJsonKeys[column]);
+            const int index = static_cast<int>(column);
+            if (const std::optional<std::int64_t>* number = numberCell(row, index))
+                json.value(number->value_or(0));
+            else
+                json.value(*textCell(row, index));
+        }
+        json.endObject();
+    }
+    json.endArray();
 }
 
 } // namespace
 
-Report reportOf(const HeadlessOutcome& outcome) {
-    return {captions(kResultColumns),
-            rowsOf(outcome.mainList),
-            rowsOf(outcome.bonusList),
-            outcome.bonusShown,
-            outcome.found,
-            outcome.minimumText};
+void writeTsv(const Report& report, OutputSink& out) {
+    const HeadlessOutcome& outcome = report.outcome;
+    writeTsvRows(out, "main", outcome.mainList.rows().size(), columnCount(report),
+                 cellsOf(outcome.mainList.rows()));
+    writeTsvRows(out, "bonus", outcome.bonusList.rows().size(), columnCount(report),
+                 cellsOf(outcome.bonusList.rows()));
+    out.write("found\t" + std::to_string(outcome.found) + '\n');
+    out.write("min\t" + tsvCell(outcome.minimumText) + '\n');
 }
 
-Report reportOf(const BoardOutcome& outcome, bool blankColumn) {
-    return {captions(blankColumn ? kResultColumns + 1 : kResultColumns),
-            rowsOf(outcome.mainRows, blankColumn),
-            rowsOf(outcome.bonusRows, blankColumn),
-            outcome.bonusShown,
-            outcome.found,
-            outcome.minimumText};
-}
-
-std::string tsvText(const Report& report) {
-    std::string out;
-    appendTsvRows(out, "main", report.mainRows);
-    appendTsvRows(out, "bonus", report.bonusRows);
-    out += "found\t" + std::to_string(report.found) + '\n';
-    out += "min\t" + escapeCell(report.minimumText) + '\n';
-    return out;
-}
-
-std::string tableText(const Report& report) {
-    std::string out;
-    appendResultTable(out, report, report.mainRows);
-    if (report.bonusShown) {
-        out += "\nBonuswörter (alle Steine verbraucht):\n";
-        appendResultTable(out, report, report.bonusRows);
+void writeTable(const Report& report, OutputSink& out) {
+    const HeadlessOutcome& outcome = report.outcome;
+    writeResultTable(report, outcome.mainList.rows(), out);
+    if (outcome.bonusShown) {
+        out.write("\nBonuswörter (alle Steine verbraucht):\n");
+        writeResultTable(report, outcome.bonusList.rows(), out);
     }
-    out += '\n';
-    out += toUtf8(foundCountText(report.found));
-    out += '\n';
-    return out;
+    out.write("\n" + toUtf8(foundCountText(outcome.found)) + "\n");
 }
 
-std::string jsonText(const Report& report) {
-    nlohmann::ordered_json document = nlohmann::ordered_json::object();
-    document["main"] = jsonRows(report.mainRows);
-    document["bonus"] = jsonRows(report.bonusRows);
-    document["found"] = report.found;
-    document["min"] = toUtf8(report.minimumText);
-    return jsonDocument(document);
+void writeJson(const Report& report, OutputSink& out) {
+    const HeadlessOutcome& outcome = report.outcome;
+    JsonWriter json(out);
+    json.beginObject();
+    json.key("main");
+    writeJsonRows(report, outcome.mainList.rows(), json);
+    json.key("bonus");
+    writeJsonRows(report, outcome.bonusList.rows(), json);
+    json.key("found");
+    json.value(outcome.found);
+    json.key("min");
+    json.value(outcome.minimumText);
+    json.endObject();
+    json.finish();
 }
 
-std::string checkText(const std::vector<LookupResult>& results, Format format) {
+void writeReport(const Report& report, Format format, OutputSink& out) {
+    switch (format) {
+    case Format::Json:
+        writeJson(report, out);
+        return;
+    case Format::Tsv:
+        writeTsv(report, out);
+        return;
+    case Format::Table:
+        writeTable(report, out);
+        return;
+    }
+}
+
+void writeCheck(const std::vector<LookupResult>& results, Format format, OutputSink& out) {
     if (format == Format::Json) {
-        nlohmann::ordered_json array = nlohmann::ordered_json::array();
-        for (const LookupResult& result : results)
-            array.push_back(
-                {{"word", toUtf8(result.word)}, {"found", result.found}, {"value", result.value}});
-        return jsonDocument({{"check", std::move(array)}});
+        JsonWriter json(out);
+        json.beginObject();
+        json.key("check");
+        json.beginArray();
+        for (const LookupResult& result : results) {
+            json.beginObject();
+            json.key("word");
+            json.value(result.word);
+            json.key("found");
+            json.value(result.found);
+            json.key("value");
+            json.value(std::int64_t{result.value});
+            json.endObject();
+        }
+        json.endArray();
+        json.endObject();
+        json.finish();
+        return;
     }
-    std::vector<Report::Row> rows;
-    for (const LookupResult& result : results)
-        rows.push_back({result.word, result.found ? u"ja" : u"nein", decimalText(result.value)});
-    if (format == Format::Tsv) {
-        std::string out;
-        appendTsvRows(out, "check", rows);
-        return out;
-    }
-    std::string out;
-    appendTable(out, {u"Wort", u"In der Wortliste", u"Wortwert"}, rows, {false, false, true});
-    return out;
+    const CellText cell = [&results](std::size_t row, std::size_t column) -> std::u16string {
+        const LookupResult& result = results[row];
+        switch (column) {
+        case 0:
+            return result.word;
+        case 1:
+            return result.found ? u"ja" : u"nein";
+        default:
+            return decimalText(result.value);
+        }
+    };
+    if (format == Format::Tsv)
+        writeTsvRows(out, "check", results.size(), 3, cell);
+    else
+        writeAlignedTable(out, {u"Wort", u"In der Wortliste", u"Wortwert"}, {false, false, true},
+                          results.size(), cell);
 }
 
 } // namespace lettriner::cli

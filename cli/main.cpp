@@ -8,7 +8,6 @@
 #include "data/text_case.h"
 #include "data/utf8.h"
 #include "data/word_database.h"
-#include "engine/board_search.h"
 #include "engine/headless_search.h"
 #include "engine/letter_values.h"
 #include "engine/prepared_words.h"
@@ -30,8 +29,8 @@ std::u16string fieldText(const std::optional<std::string>& option, std::u16strin
     return option ? lettriner::fromUtf8(*option) : std::u16string(fallback);
 }
 
-lettriner::BoardRules boardRules(const lettriner::cli::Options& options) {
-    lettriner::BoardRules rules;
+lettriner::TileRules tileRules(const lettriner::cli::Options& options) {
+    lettriner::TileRules rules;
     rules.blanks = options.blanks.value_or(0);
     rules.pattern = options.pattern;
     rules.starts = options.starts;
@@ -39,12 +38,6 @@ lettriner::BoardRules boardRules(const lettriner::cli::Options& options) {
     rules.minLength = options.minLength.value_or(0);
     rules.maxLength = options.maxLength.value_or(UINT32_MAX);
     return rules;
-}
-
-// True when all of it reached standard output.
-bool write(const std::string& text) {
-    std::fwrite(text.data(), 1, text.size(), stdout);
-    return std::fflush(stdout) == 0 && !std::ferror(stdout);
 }
 
 } // namespace
@@ -101,7 +94,9 @@ int main(int argc, char** argv) try {
         const std::vector<LookupResult> results = lookUpWords(words, asked);
         const bool allFound = std::all_of(results.begin(), results.end(),
                                           [](const LookupResult& result) { return result.found; });
-        return write(cli::checkText(results, format)) && allFound ? 0 : 1;
+        cli::FileSink out(stdout);
+        cli::writeCheck(results, format, out);
+        return out.finish() && allFound ? 0 : 1;
     }
 
     HeadlessFields fields;
@@ -111,19 +106,10 @@ int main(int argc, char** argv) try {
                     fieldText(options.extra, SearchDefaults::allowance)};
     fields.minimum = fieldText(options.minimum, SearchDefaults::minimum);
     fields.fieldSize = fieldText(options.fieldSize, SearchDefaults::fieldSize);
-    const cli::Report report =
-        options.onBoard() ? cli::reportOf(searchOnBoard(words, fields, boardRules(options)),
-                                          options.blanks.has_value())
-                          : cli::reportOf(searchWithoutWindow(words, fields));
-    switch (format) {
-    case cli::Format::Json:
-        return write(cli::jsonText(report)) ? 0 : 1;
-    case cli::Format::Tsv:
-        return write(cli::tsvText(report)) ? 0 : 1;
-    case cli::Format::Table:
-        break;
-    }
-    return write(cli::tableText(report)) ? 0 : 1;
+    const HeadlessOutcome outcome = searchWithoutWindow(words, fields, tileRules(options));
+    cli::FileSink out(stdout);
+    cli::writeReport({outcome, options.blanks.has_value()}, format, out);
+    return out.finish() ? 0 : 1;
 } catch (const std::bad_alloc&) {
     std::fputs("lettriner-cli: out of memory\n", stderr);
     return 1;

@@ -201,8 +201,4 @@ WordDatabase DatenbankEinlesen(const std::filesystem::path& Pfad,
     return WordDatabase(std::move(contents));
 }
 
-std::u16string databaseCountText(std::int64_t highestIndex, char16_t groupSeparator) {
-    return u"gesamte Datenbank: \r\n" + formatGrouped(highestIndex, groupSeparator) + u" Einträge";
-}
-
 } // namespace lettriner

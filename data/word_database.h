@@ -78,8 +78,4 @@ inline constexpr std::uintmax_t kLargestWordList = std::uintmax_t{256} << 20;
 [[nodiscard]] WordDatabase DatenbankEinlesen(const std::filesystem::path& Pfad,
                                              const std::function<void()>& yield = {});
 
-// The two-line caption of the count label: "gesamte Datenbank: ", CR LF, the
-// highest index grouped by threes, " Einträge". Zero shows no number.
-[[nodiscard]] std::u16string databaseCountText(std::int64_t highestIndex, char16_t groupSeparator);
-
 } // namespace lettriner

@@ -5,7 +5,8 @@
 
 namespace lettriner {
 
-HeadlessOutcome searchWithoutWindow(const PreparedWords& words, const HeadlessFields& fields) {
+HeadlessOutcome searchWithoutWindow(const PreparedWords& words, const HeadlessFields& fields,
+                                    const TileRules& tiles) {
     // The design texts first, so a text out of range leaves the design value in force.
     KeptNumberField minimum{std::u16string(SearchDefaults::minimum)};
     minimum.setText(fields.minimum);
@@ -16,7 +17,7 @@ HeadlessOutcome searchWithoutWindow(const PreparedWords& words, const HeadlessFi
     HeadlessWindow window;
     SearchConnections connections{minimum, fieldSize, outcome.mainList, outcome.bonusList, window};
     SearchRun run(words);
-    run.run(fields.texts, connections);
+    run.run(fields.texts, connections, tiles);
     outcome.bonusShown = run.bonusFound();
     outcome.found = run.foundCount();
     outcome.minimumText = minimum.text();

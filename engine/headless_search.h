@@ -2,7 +2,8 @@
 #pragma once
 // One search without a window, as the command line, the fuzz targets and the
 // tests run it: the fields start with their design texts, then take the
-// given texts at once, as if typed in after start-up.
+// given texts at once, as if typed in after start-up. Blanks and a pattern,
+// which the window does not offer, come as tile rules.
 
 #include "engine/prepared_words.h"
 #include "engine/result_list.h"
@@ -28,6 +29,7 @@ struct HeadlessOutcome {
 };
 
 [[nodiscard]] HeadlessOutcome searchWithoutWindow(const PreparedWords& words,
-                                                  const HeadlessFields& fields);
+                                                  const HeadlessFields& fields,
+                                                  const TileRules& tiles = {});
 
 } // namespace lettriner

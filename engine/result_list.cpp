@@ -3,8 +3,14 @@
 
 namespace lettriner {
 
+ResultRow* writableRow(std::vector<ResultRow>& rows, std::int64_t row, int column) {
+    if (row < 1 || row > static_cast<std::int64_t>(rows.size()) || column < 1)
+        return nullptr;
+    return &rows[static_cast<std::size_t>(row - 1)];
+}
+
 void MemoryResultList::addRow(std::u16string text) {
-    rows_.emplace_back()[0] = std::move(text);
+    rows_.emplace_back().word = std::move(text);
 }
 
 void MemoryResultList::reserveRows(std::int64_t count) {
@@ -13,9 +19,15 @@ void MemoryResultList::reserveRows(std::int64_t count) {
 }
 
 void MemoryResultList::setSubItem(std::int64_t row, int column, std::u16string text) {
-    if (row < 1 || row > rowCount() || column < 1 || column >= kResultColumns)
-        return;
-    rows_[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(column)] = std::move(text);
+    if (ResultRow* target = writableRow(rows_, row, column))
+        if (std::u16string* cell = textCell(*target, column))
+            *cell = std::move(text);
+}
+
+void MemoryResultList::setSubItem(std::int64_t row, int column, std::int64_t number) {
+    if (ResultRow* target = writableRow(rows_, row, column))
+        if (std::optional<std::int64_t>* cell = numberCell(*target, column))
+            *cell = number;
 }
 
 } // namespace lettriner

@@ -4,23 +4,25 @@
 // clear. The window's table model implements it; MemoryResultList serves the
 // command line and the tests.
 
-#include <array>
+#include "engine/result_row.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
 
 namespace lettriner {
 
-inline constexpr int kResultColumns = 5; // word, length, value, needed, left over
-
 class ResultList {
 public:
     virtual ~ResultList() = default;
-    // Adds a row at the end whose column 0 is `text` and whose other cells are empty.
+    // Adds a row at the end whose word is `text` and whose other cells are empty.
     virtual void addRow(std::u16string text) = 0;
     [[nodiscard]] virtual std::int64_t rowCount() const = 0;
-    // Sets column `column` (1..4) of row `row`, rows counted from 1.
+    // Sets column `column` of row `row`, rows counted from 1. A text goes
+    // only into a text column, a number only into a number column; column 0
+    // belongs to addRow. Anything else changes nothing.
     virtual void setSubItem(std::int64_t row, int column, std::u16string text) = 0;
+    virtual void setSubItem(std::int64_t row, int column, std::int64_t number) = 0;
     // ListeZeilenLöschen: the list is empty afterwards.
     virtual void clear() = 0;
     // A hint before `count` rows are added, so storage grows once.
@@ -29,22 +31,25 @@ public:
     virtual void publishFinished() {}
 };
 
+// The row `row` (counted from 1) of `rows` that a cell of `column` may be
+// written into, or null.
+[[nodiscard]] ResultRow* writableRow(std::vector<ResultRow>& rows, std::int64_t row, int column);
+
 class MemoryResultList final : public ResultList {
 public:
-    using Row = std::array<std::u16string, kResultColumns>;
-
     void addRow(std::u16string text) override;
     [[nodiscard]] std::int64_t rowCount() const override {
         return static_cast<std::int64_t>(rows_.size());
     }
     void setSubItem(std::int64_t row, int column, std::u16string text) override;
+    void setSubItem(std::int64_t row, int column, std::int64_t number) override;
     void clear() override { rows_.clear(); }
     void reserveRows(std::int64_t count) override;
 
-    [[nodiscard]] const std::vector<Row>& rows() const { return rows_; }
+    [[nodiscard]] const std::vector<ResultRow>& rows() const { return rows_; }
 
 private:
-    std::vector<Row> rows_;
+    std::vector<ResultRow> rows_;
 };
 
 } // namespace lettriner

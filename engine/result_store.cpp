@@ -5,6 +5,7 @@
 #include "engine/word_check.h"
 
 #include <algorithm>
+#include <climits>
 #include <new>
 
 namespace lettriner {
@@ -77,6 +78,33 @@ std::vector<std::int64_t> WortWertFeld(const LetterValueTable& values,
     return result;
 }
 
+namespace {
+
+// Column k > 0 of every row, when the counts match.
+template <class Cell> void fillColumn(ResultList& list, int column, std::vector<Cell> array) {
+    if (list.rowCount() != static_cast<std::int64_t>(array.size()))
+        return;
+    for (std::int64_t row = 1; row <= list.rowCount(); ++row)
+        list.setSubItem(row, column, std::move(array[static_cast<std::size_t>(row - 1)]));
+}
+
+// Publishes the word and length columns, then whatever `otherColumns` writes.
+template <class OtherColumns>
+void publishColumns(const ResultStore& Feld, const PreparedWords& words, ResultList& list,
+                    OtherColumns otherColumns) {
+    try {
+        const std::vector<std::u16string> texts = storeWords(Feld, words);
+        ListeSpalteFüllen(list, kWordColumn, texts);
+        ListeSpalteFüllen(list, kLengthColumn, WortLängenFeld(texts));
+        otherColumns(texts);
+        list.publishFinished();
+    } catch (const std::bad_alloc&) {
+        list.clear(); // half-filled rows would show words without their values
+    }
+}
+
+} // namespace
+
 void ListeSpalteFüllen(ResultList& list, int column, std::vector<std::u16string> array) {
     if (column < 0)
         return;
@@ -86,33 +114,54 @@ void ListeSpalteFüllen(ResultList& list, int column, std::vector<std::u16string
             list.addRow(std::move(text));
         return;
     }
-    if (list.rowCount() != static_cast<std::int64_t>(array.size()))
-        return;
-    for (std::int64_t row = 1; row <= list.rowCount(); ++row)
-        list.setSubItem(row, column, std::move(array[static_cast<std::size_t>(row - 1)]));
+    fillColumn(list, column, std::move(array));
 }
 
 void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::int64_t>& array) {
-    std::vector<std::u16string> texts;
-    texts.reserve(array.size());
-    for (const std::int64_t number : array)
-        texts.push_back(decimalText(number));
-    ListeSpalteFüllen(list, column, std::move(texts));
+    if (column < 0)
+        return;
+    if (column == 0) {
+        std::vector<std::u16string> texts;
+        texts.reserve(array.size());
+        for (const std::int64_t number : array)
+            texts.push_back(decimalText(number));
+        ListeSpalteFüllen(list, column, std::move(texts));
+        return;
+    }
+    fillColumn(list, column, array);
 }
 
 void publishStore(const ResultStore& Feld, const PreparedWords& words, std::u16string_view rack,
                   ResultList& list) {
-    try {
-        const std::vector<std::u16string> texts = storeWords(Feld, words);
-        ListeSpalteFüllen(list, 0, texts);
-        ListeSpalteFüllen(list, 1, WortLängenFeld(texts));
-        ListeSpalteFüllen(list, 2, WortWertFeld(words.values(), texts));
-        ListeSpalteFüllen(list, 3, ZusBuchstabenFeld(texts, rack));
-        ListeSpalteFüllen(list, 4, ÜbrigeBuchstFeld(texts, rack));
-        list.publishFinished();
-    } catch (const std::bad_alloc&) {
-        list.clear(); // half-filled rows would show words without their values
-    }
+    publishColumns(Feld, words, list, [&](const std::vector<std::u16string>& texts) {
+        ListeSpalteFüllen(list, kValueColumn, WortWertFeld(words.values(), texts));
+        ListeSpalteFüllen(list, kNeededColumn, ZusBuchstabenFeld(texts, rack));
+        ListeSpalteFüllen(list, kLeftOverColumn, ÜbrigeBuchstFeld(texts, rack));
+    });
+}
+
+void publishStore(const ResultStore& Feld, const PreparedWords& words, const TileTest& test,
+                  ResultList& list) {
+    publishColumns(Feld, words, list, [&](const std::vector<std::u16string>& texts) {
+        const std::vector<StoreEntry>& entries = Feld.entries();
+        std::vector<std::int64_t> values;
+        std::vector<std::u16string> needed;
+        std::vector<std::u16string> leftOver;
+        std::vector<std::u16string> blanks;
+        for (std::size_t i = 0; i < entries.size(); ++i) {
+            TileLetters letters;
+            if (entries[i].word != kStartingEntry)
+                (void)test.judge(texts[i], INT16_MIN, &letters);
+            values.push_back(entries[i].value);
+            needed.push_back(std::move(letters.needed));
+            leftOver.push_back(std::move(letters.leftOver));
+            blanks.push_back(std::move(letters.blanks));
+        }
+        ListeSpalteFüllen(list, kValueColumn, values);
+        ListeSpalteFüllen(list, kNeededColumn, std::move(needed));
+        ListeSpalteFüllen(list, kLeftOverColumn, std::move(leftOver));
+        ListeSpalteFüllen(list, kBlanksColumn, std::move(blanks));
+    });
 }
 
 } // namespace lettriner

@@ -6,6 +6,7 @@
 #include "engine/number_field.h"
 #include "engine/prepared_words.h"
 #include "engine/result_list.h"
+#include "engine/tile_test.h"
 #include "engine/value_sort.h"
 
 #include <cstdint>
@@ -55,9 +56,9 @@ void finishStore(ResultStore& Feld);
 [[nodiscard]] std::vector<std::int64_t> WortWertFeld(const LetterValueTable& values,
                                                      const std::vector<std::u16string>& Feld);
 
-// Column 0 adds one row per entry; column k > 0 fills cell k of every row, but
-// only when the list has exactly as many rows as the array has entries.
-// A negative column changes nothing.
+// Column 0 adds one row per entry (numbers as decimal text); column k > 0
+// fills cell k of every row, but only when the list has exactly as many rows
+// as the array has entries. A negative column changes nothing.
 void ListeSpalteFüllen(ResultList& list, int column, std::vector<std::u16string> array);
 void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::int64_t>& array);
 
@@ -65,6 +66,12 @@ void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::int
 // left-over letters, the last two against `rack` (upper-cased, spaces kept).
 // When memory runs out on the way, the list is left empty.
 void publishStore(const ResultStore& Feld, const PreparedWords& words, std::u16string_view rack,
+                  ResultList& list);
+
+// The same for a search with blanks or a pattern: the values as stored
+// (after the blanks), the letter columns as `test` gives them, and a sixth
+// column with the letters the blanks stand for.
+void publishStore(const ResultStore& Feld, const PreparedWords& words, const TileTest& test,
                   ResultList& list);
 
 } // namespace lettriner

@@ -4,12 +4,12 @@
 #include "data/number_format.h"
 #include "data/numeric_value.h"
 #include "data/text_case.h"
-#include "engine/word_test.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <chrono>
+#include <climits>
 #include <cstring>
 
 namespace lettriner {
@@ -46,48 +46,47 @@ double SearchWindow::secondsSinceMidnight() const {
     return duration<double>(sinceMidnight).count();
 }
 
-std::u16string foundCountText(std::uint64_t count) {
-    return decimalText(static_cast<std::int64_t>(count)) + u" Wörter gefunden";
-}
-
 void SearchRun::showProgress(std::int64_t index, std::int64_t lastIndex, double startTime,
                              SearchWindow& window) {
     // A one-word list has nothing to divide by; the bar then waits for the final 100 %.
     if (lastIndex != 0)
         window.drawProgress(static_cast<std::int16_t>(index * 100 / lastIndex));
-    window.setElapsedText(
-        formatOneDecimal(window.secondsSinceMidnight() - startTime, window.decimalSeparator()));
+    window.showElapsedSeconds(window.secondsSinceMidnight() - startTime);
     progressDue_ = false;
-    window.setFoundText(foundCountText(found_));
+    window.showFoundCount(found_);
 }
 
-void SearchRun::testWords(const WordTest& test, std::size_t from, std::size_t to,
+void SearchRun::testWords(const TileTest& test, std::size_t from, std::size_t to,
                           std::int16_t& minimum, ResultStore& main,
                           SearchConnections& connections) {
+    // The summary knows full values only: when a blank may stand for a
+    // letter of negative value, it must not reject by value.
+    const std::int16_t noBound = INT16_MIN;
+    const std::int16_t& summaryMinimum = test.summaryBoundsValue() ? minimum : noBound;
     // A pruning raises the minimum; check() applies it to the rest of a block.
-    forEachCandidate(test.summary(), words_, from, to, minimum,
-                     [&](std::size_t i) { acceptWord(test, i, minimum, main, connections); });
+    forEachCandidate(test.summary(), words_, from, to, summaryMinimum, [&](std::size_t i) {
+        const TileVerdict verdict = test.check(words_, i, minimum);
+        if (verdict.result != CheckResult::Rejected)
+            acceptWord(i, verdict, minimum, main, connections);
+    });
 }
 
-void SearchRun::acceptWord(const WordTest& test, std::size_t i, std::int16_t& minimum,
+void SearchRun::acceptWord(std::size_t i, TileVerdict verdict, std::int16_t& minimum,
                            ResultStore& main, SearchConnections& connections) {
-    const CheckResult result = test.check(words_, i, minimum);
-    if (result == CheckResult::Rejected)
-        return;
     ++found_;
-    const std::int16_t value = words_.value(i);
-    main.append(static_cast<std::uint32_t>(i), value);
+    main.append(static_cast<std::uint32_t>(i), verdict.value);
     if (main.highestIndex() > connections.fieldSize.value()) {
         SchlechteHälfteLöschen(main, connections.minimumValue);
         minimum = connections.minimumValue.value();
     }
-    if (result == CheckResult::AcceptedAsBonus) {
-        bonus_.append(static_cast<std::uint32_t>(i), value);
+    if (verdict.result == CheckResult::AcceptedAsBonus) {
+        bonus_.append(static_cast<std::uint32_t>(i), verdict.value);
         bonusFound_ = true;
     }
 }
 
-void SearchRun::run(const SearchTexts& texts, SearchConnections& connections) {
+void SearchRun::run(const SearchTexts& texts, SearchConnections& connections,
+                    const TileRules& tiles) {
     if (running_)
         return;
     RunningFlag running(running_);
@@ -104,7 +103,8 @@ void SearchRun::run(const SearchTexts& texts, SearchConnections& connections) {
 
     const LetterRules rules = letterRulesOf(texts);
     const std::u16string& rack = rules.rack;
-    const WordTest test(rack, rules.mandatory, rules.forbidden, rules.allowance);
+    const TileTest test(words_.values(), rack, rules.mandatory, rules.forbidden, rules.allowance,
+                        tiles);
     window.setSearching(true);
 
     const std::int64_t lastIndex = static_cast<std::int64_t>(words_.size()) - 1;
@@ -140,16 +140,21 @@ void SearchRun::run(const SearchTexts& texts, SearchConnections& connections) {
     finishStore(bonus_);
     connections.mainList.clear();
     connections.bonusList.clear();
-    const std::u16string publishRack = window.currentRack(rack);
-    publishStore(main, words_, publishRack, connections.mainList);
-    if (bonusFound_) {
-        publishStore(bonus_, words_, publishRack, connections.bonusList);
-        window.showBonusList();
+    if (tiles.none()) {
+        const std::u16string publishRack = window.currentRack(rack);
+        publishStore(main, words_, publishRack, connections.mainList);
+        if (bonusFound_)
+            publishStore(bonus_, words_, publishRack, connections.bonusList);
+    } else {
+        publishStore(main, words_, test, connections.mainList);
+        if (bonusFound_)
+            publishStore(bonus_, words_, test, connections.bonusList);
     }
+    if (bonusFound_)
+        window.showBonusList();
     window.drawProgress(100);
-    window.setElapsedText(
-        formatOneDecimal(window.secondsSinceMidnight() - startTime, window.decimalSeparator()));
-    window.setFoundText(foundCountText(found_));
+    window.showElapsedSeconds(window.secondsSinceMidnight() - startTime);
+    window.showFoundCount(found_);
     window.setProgressTimerEnabled(false);
     window.setSearching(false);
 }

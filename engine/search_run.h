@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// One search over the whole word list: every word is tested, accepted words
-// go into the main store (pruned when it outgrows the field size) and, when
-// they use every rack tile, into the bonus store; both are then published
-// into their result lists, best first.
+// One search over the whole word list, the one every caller runs (the
+// window, the command line with or without blanks and a pattern, the tests):
+// every word is tested, accepted words go into the main store (pruned when it
+// outgrows the field size) and, when they use every rack tile, into the bonus
+// store; both are then published into their result lists, best first.
 //
 // The run knows nothing of windows. It reads the live minimum value and field
 // size through NumberField, writes rows through ResultList, and calls the
@@ -13,7 +14,7 @@
 #include "engine/prepared_words.h"
 #include "engine/result_list.h"
 #include "engine/result_store.h"
-#include "engine/word_test.h"
+#include "engine/tile_test.h"
 
 #include <cstdint>
 #include <string>
@@ -71,14 +72,13 @@ public:
     virtual void hideBonusList() {}
     virtual void showBonusList() {}
     virtual void drawProgress(std::int16_t /*percent*/) {}
-    virtual void setElapsedText(std::u16string /*text*/) {}
-    virtual void setFoundText(std::u16string /*text*/) {}
+    virtual void showElapsedSeconds(double /*seconds*/) {}
+    virtual void showFoundCount(std::uint64_t /*count*/) {}
     // The rack field's text now, upper-cased, for the letter columns.
     [[nodiscard]] virtual std::u16string currentRack(std::u16string_view rackAtStart) {
         return std::u16string(rackAtStart);
     }
     [[nodiscard]] virtual double secondsSinceMidnight() const;
-    [[nodiscard]] virtual char16_t decimalSeparator() const { return u'.'; }
 };
 
 // A run without a window: the command line, benchmarks, tests.
@@ -100,7 +100,10 @@ public:
     explicit SearchRun(const PreparedWords& words) : words_(words) {}
 
     // Runs a whole search and publishes it. Does nothing while a run is going.
-    void run(const SearchTexts& texts, SearchConnections& connections);
+    // With tile rules the rows carry the value after the blanks and the
+    // letter columns of the tile test; without, the columns are worked out
+    // against the rack as the window shows it when the run ends.
+    void run(const SearchTexts& texts, SearchConnections& connections, const TileRules& tiles = {});
 
     // Ends a going run before its next word; it is then finished as usual.
     void requestStop() { stopRequested_ = true; }
@@ -110,14 +113,14 @@ public:
     [[nodiscard]] bool isRunning() const { return running_; }
     [[nodiscard]] std::uint64_t foundCount() const { return found_; }
     [[nodiscard]] bool bonusFound() const { return bonusFound_; }
-    [[nodiscard]] const ResultStore& bonusStore() const { return bonus_; }
 
 private:
     // Tests the words [from, to) and stores the accepted ones.
-    void testWords(const WordTest& test, std::size_t from, std::size_t to, std::int16_t& minimum,
+    void testWords(const TileTest& test, std::size_t from, std::size_t to, std::int16_t& minimum,
                    ResultStore& main, SearchConnections& connections);
-    // Tests one candidate and stores it when accepted.
-    void acceptWord(const WordTest& test, std::size_t i, std::int16_t& minimum, ResultStore& main,
+    // The one place a word is taken: counted, stored, the main store pruned
+    // when it outgrows the field size, and a bonus word kept apart.
+    void acceptWord(std::size_t i, TileVerdict verdict, std::int16_t& minimum, ResultStore& main,
                     SearchConnections& connections);
     void showProgress(std::int64_t index, std::int64_t lastIndex, double startTime,
                       SearchWindow& window);
@@ -130,8 +133,5 @@ private:
     bool bonusFound_ = false;
     bool running_ = false;
 };
-
-// "N Wörter gefunden".
-[[nodiscard]] std::u16string foundCountText(std::uint64_t count);
 
 } // namespace lettriner

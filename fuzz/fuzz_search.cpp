@@ -8,21 +8,22 @@
 // - a literal run, word by word with the literal letter test against the
 //   minimum as pruning raises it, finds as many words, keeps the same main
 //   list and lists every bonus word it accepts;
-// - with blanks and a board pattern (three more pieces) the prepared board
-//   test decides like its character-wise form, and without them the board
-//   search gives exactly the window's search.
+// - with blanks and a pattern of board letters (three more pieces) the
+//   prepared tile test decides like its character-wise form, a search with
+//   them lists each word with the value its test gives, and without them the
+//   search given empty rules is exactly the window's search.
 
 #include "data/number_format.h"
 #include "data/numeric_value.h"
 #include "data/text_case.h"
 #include "data/word_database.h"
-#include "engine/board_search.h"
+#include "display/result_texts.h"
 #include "engine/headless_search.h"
 #include "engine/letter_values.h"
 #include "engine/prepared_words.h"
 #include "engine/result_store.h"
+#include "engine/tile_test.h"
 #include "engine/word_check.h"
-#include "engine/word_test.h"
 #include "fuzz_input.h"
 #include "support/literal_selection_sort.h"
 
@@ -35,15 +36,15 @@ using namespace lettriner;
 
 void checkSortedBestFirst(const MemoryResultList& list) {
     for (std::size_t i = 1; i < list.rows().size(); ++i) {
-        if (numericValue(list.rows()[i - 1][2]) < numericValue(list.rows()[i][2]))
+        if (list.rows()[i - 1].value < list.rows()[i].value)
             fuzz::fail("a list is not sorted best first");
     }
 }
 
 // Blanks, lengths and pattern from one piece, starts and ends from two more.
-BoardRules boardRules(const std::u16string& board, const std::u16string& starts,
-                      const std::u16string& ends) {
-    BoardRules rules;
+TileRules tileRules(const std::u16string& board, const std::u16string& starts,
+                    const std::u16string& ends) {
+    TileRules rules;
     rules.blanks = board.size() > 0 ? board[0] % (kMostBlanks + 1) : 0;
     rules.minLength = board.size() > 1 ? board[1] % 8u : 0u;
     rules.maxLength = board.size() > 2 && board[2] % 2 == 0 ? board[2] % 20u : UINT32_MAX;
@@ -53,46 +54,42 @@ BoardRules boardRules(const std::u16string& board, const std::u16string& starts,
     return rules;
 }
 
-BoardVerdict preparedVerdict(const BoardTest& test, const PreparedWords& words, std::size_t i,
-                             std::int16_t minimum) {
+TileVerdict preparedVerdict(const TileTest& test, const PreparedWords& words, std::size_t i,
+                            std::int16_t minimum) {
     const std::int16_t bound = test.summaryBoundsValue() ? minimum : INT16_MIN;
-    return test.summary().passes(words, i, bound) ? test.check(words, i, minimum) : BoardVerdict{};
+    return test.summary().passes(words, i, bound) ? test.check(words, i, minimum) : TileVerdict{};
 }
 
-void checkBoardSearch(const PreparedWords& words, const HeadlessFields& fields,
-                      const BoardRules& rules, const BoardTest& test,
-                      const HeadlessOutcome& plain) {
-    const BoardOutcome outcome = searchOnBoard(words, fields, rules);
-    for (std::size_t i = 1; i < outcome.mainRows.size(); ++i) {
-        if (outcome.mainRows[i - 1].value < outcome.mainRows[i].value)
-            fuzz::fail("the board list is not sorted best first");
-    }
-    for (const BoardRow& row : outcome.mainRows) {
+void checkTileSearch(const PreparedWords& words, const HeadlessFields& fields,
+                     const TileRules& rules, const TileTest& test, const HeadlessOutcome& plain) {
+    const HeadlessOutcome outcome = searchWithoutWindow(words, fields, rules);
+    checkSortedBestFirst(outcome.mainList);
+    for (const ResultRow& row : outcome.mainList.rows()) {
         if (test.judge(row.word, INT16_MIN).value != row.value)
-            fuzz::fail("a board word is listed with another value than its test gives");
+            fuzz::fail("a word is listed with another value than its tile test gives");
     }
-    for (const BoardRow& row : outcome.bonusRows) {
+    for (const ResultRow& row : outcome.bonusList.rows()) {
         if (test.judge(row.word, INT16_MIN).result != CheckResult::AcceptedAsBonus)
-            fuzz::fail("a board bonus word does not use every tile and blank");
+            fuzz::fail("a bonus word with tile rules does not use every tile and blank");
     }
-    if (rules.blanks != 0 || !rules.pattern.empty() || !rules.starts.empty() ||
-        !rules.ends.empty() || rules.minLength != 0 || rules.maxLength != UINT32_MAX)
+    if (!rules.none())
         return;
-    const auto sameRows = [](const MemoryResultList& list, const std::vector<BoardRow>& rows) {
-        if (list.rows().size() != rows.size())
+    // The letter columns the tile test gives, against the rack the run began with.
+    const auto sameRows = [](const MemoryResultList& a, const MemoryResultList& b) {
+        if (a.rows().size() != b.rows().size())
             return false;
-        for (std::size_t i = 0; i < rows.size(); ++i) {
-            const MemoryResultList::Row& cells = list.rows()[i];
-            if (cells[0] != rows[i].word || cells[2] != decimalText(rows[i].value) ||
-                cells[3] != rows[i].letters.needed || cells[4] != rows[i].letters.leftOver)
-                return false;
+        for (std::size_t i = 0; i < a.rows().size(); ++i) {
+            for (int column = 0; column < kResultColumns; ++column) {
+                if (cellText(a.rows()[i], column) != cellText(b.rows()[i], column))
+                    return false;
+            }
         }
         return true;
     };
-    if (!sameRows(plain.mainList, outcome.mainRows) ||
-        !sameRows(plain.bonusList, outcome.bonusRows) || plain.found != outcome.found ||
+    if (!sameRows(plain.mainList, outcome.mainList) ||
+        !sameRows(plain.bonusList, outcome.bonusList) || plain.found != outcome.found ||
         plain.bonusShown != outcome.bonusShown || plain.minimumText != outcome.minimumText)
-        fuzz::fail("without blanks or board the board search differs from the window's");
+        fuzz::fail("without tile rules the tile search differs from the window's");
 }
 
 // The run as the window's loop once was: every word in order through the
@@ -135,8 +132,8 @@ void checkAgainstLiteralRun(const PreparedWords& words, const WordDatabase& data
     std::vector<std::u16string> accepted = storeWords(bonus, words);
     accepted.erase(accepted.begin()); // the starting entry
     std::vector<std::u16string> listed;
-    for (const MemoryResultList::Row& row : outcome.bonusList.rows())
-        listed.push_back(row[0]);
+    for (const ResultRow& row : outcome.bonusList.rows())
+        listed.push_back(row.word);
     std::sort(accepted.begin(), accepted.end());
     std::sort(listed.begin(), listed.end());
     if (accepted != listed)
@@ -159,24 +156,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const double allowance = letters.allowance;
     const std::int16_t probeMinimum = textToInt16(texts[7]).value_or(0);
 
-    const WordTest test(rack, mandatory, forbidden, allowance);
-    const BoardRules rules = boardRules(texts[9], texts[10], texts[11]);
-    const BoardTest board(values, rack, mandatory, forbidden, allowance, rules);
-    const BoardTest plainBoard(values, rack, mandatory, forbidden, allowance, {});
+    const TileRules rules = tileRules(texts[9], texts[10], texts[11]);
+    const TileTest tiles(values, rack, mandatory, forbidden, allowance, rules);
+    const TileTest plainTiles(values, rack, mandatory, forbidden, allowance, {});
     std::vector<StoreEntry> store;
     for (std::size_t i = 0; i < words.size(); ++i) {
-        const CheckResult fast = test.check(words, i, probeMinimum);
-        const CheckResult literal = WortPrüfen(values, toUpper(database[i]), rack, mandatory,
-                                               forbidden, allowance, probeMinimum);
-        if (fast != literal)
-            fuzz::fail("the fast letter test differs from the literal one");
         const std::u16string upper = toUpper(database[i]);
-        const BoardVerdict judged = board.judge(upper, probeMinimum);
-        if (preparedVerdict(board, words, i, probeMinimum) != judged)
-            fuzz::fail("the prepared board test differs from the character-wise one");
-        const BoardVerdict plain = plainBoard.judge(upper, probeMinimum);
-        if (plain.result != literal || preparedVerdict(plainBoard, words, i, probeMinimum) != plain)
-            fuzz::fail("without blanks or board the board test differs from the letter test");
+        const CheckResult literal =
+            WortPrüfen(values, upper, rack, mandatory, forbidden, allowance, probeMinimum);
+        const TileVerdict plain = plainTiles.judge(upper, probeMinimum);
+        if (plain.result != literal || preparedVerdict(plainTiles, words, i, probeMinimum) != plain)
+            fuzz::fail("without tile rules the tile test differs from the literal letter test");
+        const TileVerdict judged = tiles.judge(upper, probeMinimum);
+        if (preparedVerdict(tiles, words, i, probeMinimum) != judged)
+            fuzz::fail("the prepared tile test differs from the character-wise one");
         store.push_back({static_cast<std::uint32_t>(i), words.entry(i).value});
     }
     std::vector<StoreEntry> expected = store;
@@ -188,7 +181,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const HeadlessFields fields{search, texts[7], texts[8]};
     const HeadlessOutcome outcome = searchWithoutWindow(words, fields);
     checkAgainstLiteralRun(words, database, values, letters, fields, outcome);
-    checkBoardSearch(words, fields, rules, board, outcome);
+    checkTileSearch(words, fields, rules, tiles, outcome);
     KeptNumberField fieldSize{std::u16string(SearchDefaults::fieldSize)};
     fieldSize.setText(texts[8]);
     const std::int16_t fieldSizeValue = fieldSize.value();
@@ -203,12 +196,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     checkSortedBestFirst(mainList);
     checkSortedBestFirst(bonusList);
     for (const auto& row : mainList.rows()) {
-        if (WortPrüfen(values, row[0], rack, mandatory, forbidden, allowance, INT16_MIN) ==
+        if (WortPrüfen(values, row.word, rack, mandatory, forbidden, allowance, INT16_MIN) ==
             CheckResult::Rejected)
             fuzz::fail("a listed word fails the letter test");
     }
     for (const auto& row : bonusList.rows()) {
-        if (WortPrüfen(values, row[0], rack, mandatory, forbidden, allowance, INT16_MIN) !=
+        if (WortPrüfen(values, row.word, rack, mandatory, forbidden, allowance, INT16_MIN) !=
             CheckResult::AcceptedAsBonus)
             fuzz::fail("a bonus word does not use every tile");
     }

@@ -109,9 +109,9 @@ int main(int argc, char** argv) {
         const HeadlessOutcome outcome = searchWithoutWindow(words, fields);
         const auto& rows = outcome.mainList.rows();
         for (std::size_t row = 0; row < 5 && row < rows.size(); ++row) {
-            if (!rows[row][0].empty() && fails(rows[row][0])) {
+            if (!rows[row].word.empty() && fails(rows[row].word)) {
                 ++failures;
-                std::cout << "rack " << toUtf8(fields.texts.rack) << ": " << toUtf8(rows[row][0])
+                std::cout << "rack " << toUtf8(fields.texts.rack) << ": " << toUtf8(rows[row].word)
                           << '\n';
             }
         }

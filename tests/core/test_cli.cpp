@@ -53,7 +53,7 @@ TEST(ParseOptions, ReadsEveryFormOfEveryOptionAndRejectsTheRest) {
         EXPECT_EQ(parseOptions(arguments).error, error);
 }
 
-TEST(ParseOptions, BoardOptionsAreUpperCasedAndCheckTakesTheFollowingWords) {
+TEST(ParseOptions, TileOptionsAreUpperCasedAndCheckTakesTheFollowingWords) {
     const ParseResult parsed =
         parseOptions({"--blanks=2", "--pattern", "..s\xC3\xA4\xC3\x9F", "--starts=ab", "--ends",
                       "\xC3\xBC", "--min-length=0", "--max-length", "15", "--check", "tee",
@@ -66,8 +66,8 @@ TEST(ParseOptions, BoardOptionsAreUpperCasedAndCheckTakesTheFollowingWords) {
               std::make_tuple(2, u"..SÄß", u"AB", u"Ü", 0u, 15u));
     EXPECT_EQ(o.checkWords, (std::vector<std::string>{"tee", "Stra\xC3\x9F"
                                                              "e"}));
-    EXPECT_TRUE(o.json && o.onBoard());
-    EXPECT_FALSE(parseOptions({"--rack=x", "--tsv"}).options.onBoard());
+    EXPECT_TRUE(o.json && o.usesTiles());
+    EXPECT_FALSE(parseOptions({"--rack=x", "--tsv"}).options.usesTiles());
 }
 
 TEST(DataFolder, InstalledProgramsFindTheirWordList) {

@@ -9,6 +9,7 @@
 #include "data/text_lines.h"
 #include "data/utf8.h"
 #include "data/word_database.h"
+#include "display/result_texts.h"
 #include "engine/letter_values.h"
 #include "support/temp_folder.h"
 

@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The letter test: the literal WortPrüfen case by case, the prepared fast
-// test against it (the same table, then random lists, where the board test
-// with blanks and patterns is also held to its character-wise form),
-// prepared values against WortBewertung, and the two letter columns.
+// The letter test: the literal WortPrüfen case by case, the prepared tile
+// test every search runs against it (the same table, then random lists,
+// where the tile test with blanks and patterns is also held to its
+// character-wise form), prepared values against WortBewertung, and the two
+// letter columns.
 
 #include "data/text_case.h"
 #include "data/text_codec.h"
 #include "data/utf8.h"
 #include "data/word_database.h"
-#include "engine/board_test.h"
 #include "engine/prepared_words.h"
+#include "engine/tile_test.h"
 #include "engine/word_check.h"
-#include "engine/word_test.h"
 #include "support/engine_printing.h"
 
 #include <algorithm>
+#include <climits>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
@@ -41,6 +42,13 @@ LetterValueTable oneEach() {
     table.set(windows1252Code(u'Q'), 10.0);
     table.set(windows1252Code(u'Y'), 20000.0);
     return table;
+}
+
+// The prepared test as a search applies it: the block-wise summary, then the check.
+TileVerdict preparedVerdict(const TileTest& test, const PreparedWords& words, std::size_t i,
+                            std::int16_t minimum) {
+    const std::int16_t bound = test.summaryBoundsValue() ? minimum : INT16_MIN;
+    return test.summary().passes(words, i, bound) ? test.check(words, i, minimum) : TileVerdict{};
 }
 
 std::u16string joinedLines(const std::vector<std::u16string>& words) {
@@ -108,8 +116,8 @@ TEST(LetterTest, LiteralAndFastTestGiveTheExpectedResult) {
         EXPECT_EQ(WortPrüfen(values, upper, rack, mandatory, forbidden, allowance, minimum),
                   expected);
         const PreparedWords words(WordDatabase(upper + u"\r\n"), values);
-        const WordTest test(rack, mandatory, forbidden, allowance);
-        EXPECT_EQ(test.check(words, 0, minimum), expected);
+        const TileTest test(values, rack, mandatory, forbidden, allowance, {});
+        EXPECT_EQ(preparedVerdict(test, words, 0, minimum).result, expected);
     }
 }
 
@@ -161,7 +169,7 @@ TEST(LetterTest, FastTestDecidesLikeTheLiteralOneOnRandomInput) {
         game.set(windows1252Code(letter), value);
     RandomTexts random(20261122);
     int outcomes[3] = {};
-    int boardOutcomes[3] = {};
+    int tileOutcomes[3] = {};
     for (int round = 0; round < 400; ++round) {
         LetterValueTable values = game;
         if (round % 4 == 0) {
@@ -177,14 +185,13 @@ TEST(LetterTest, FastTestDecidesLikeTheLiteralOneOnRandomInput) {
         std::erase(mandatory, u' ');
         std::erase(forbidden, u' ');
         const double allowance = allowances[random.below(std::size(allowances))];
-        const WordTest test(rack, mandatory, forbidden, allowance);
         std::vector<std::u16string> list;
         for (int n = 0; n < 50; ++n)
             list.push_back(random.word(rack));
         const PreparedWords words(WordDatabase(joinedLines(list)), values);
-        // Blanks and a board: a pattern, start or end cut from a listed word.
+        // Blanks and a pattern, start or end cut from a listed word.
         const std::u16string sample = toUpper(list[random.below(list.size())]);
-        BoardRules rules{static_cast<int>(random.below(3)), u"", u"", u"", 0, UINT32_MAX};
+        TileRules rules{static_cast<int>(random.below(3)), u"", u"", u"", 0, UINT32_MAX};
         if (random.below(3) == 0) {
             rules.pattern = sample.substr(0, kLongestPattern + 1);
             for (char16_t& c : rules.pattern)
@@ -198,8 +205,8 @@ TEST(LetterTest, FastTestDecidesLikeTheLiteralOneOnRandomInput) {
             rules.minLength = static_cast<std::uint32_t>(random.below(6));
         if (random.below(4) == 0)
             rules.maxLength = static_cast<std::uint32_t>(random.below(9));
-        const BoardTest board(values, rack, mandatory, forbidden, allowance, rules);
-        const BoardTest plainBoard(values, rack, mandatory, forbidden, allowance, {});
+        const TileTest tiles(values, rack, mandatory, forbidden, allowance, rules);
+        const TileTest plainTiles(values, rack, mandatory, forbidden, allowance, {});
         ASSERT_EQ(words.size(), list.size());
         for (std::size_t i = 0; i < words.size(); ++i) {
             const std::u16string upper = toUpper(list[i]);
@@ -208,34 +215,29 @@ TEST(LetterTest, FastTestDecidesLikeTheLiteralOneOnRandomInput) {
             const std::int16_t minimum = minimums[random.below(std::size(minimums))];
             const CheckResult literal =
                 WortPrüfen(values, upper, rack, mandatory, forbidden, allowance, minimum);
-            ASSERT_EQ(test.check(words, i, minimum), literal)
+            ASSERT_EQ(preparedVerdict(plainTiles, words, i, minimum).result, literal)
                 << "word \"" << toUtf8(list[i]) << "\", rack \"" << toUtf8(rack)
                 << "\", mandatory \"" << toUtf8(mandatory) << "\", forbidden \""
                 << toUtf8(forbidden) << "\", allowance " << allowance << ", minimum " << minimum;
             ++outcomes[static_cast<int>(literal)];
-            // Without blanks or board the board test is the window's test.
-            const auto prepared = [&](const BoardTest& t) {
-                const std::int16_t bound = t.summaryBoundsValue() ? minimum : INT16_MIN;
-                return t.summary().passes(words, i, bound) ? t.check(words, i, minimum)
-                                                           : BoardVerdict{};
-            };
-            const BoardVerdict plain = plainBoard.judge(upper, minimum);
+            // Without blanks or pattern the tile test is WortPrüfen.
+            const TileVerdict plain = plainTiles.judge(upper, minimum);
             ASSERT_EQ(plain.result, literal);
-            ASSERT_EQ(prepared(plainBoard), plain);
+            ASSERT_EQ(preparedVerdict(plainTiles, words, i, minimum), plain);
             ASSERT_EQ(plain.value, plain.result == CheckResult::Rejected ? 0 : words.value(i));
-            ASSERT_EQ(prepared(board), board.judge(upper, minimum))
+            ASSERT_EQ(preparedVerdict(tiles, words, i, minimum), tiles.judge(upper, minimum))
                 << "blanks " << rules.blanks << ", pattern \"" << toUtf8(rules.pattern)
                 << "\", starts \"" << toUtf8(rules.starts) << "\", ends \"" << toUtf8(rules.ends)
                 << "\", lengths " << rules.minLength << ".." << rules.maxLength;
-            ++boardOutcomes[static_cast<int>(board.judge(upper, minimum).result)];
+            ++tileOutcomes[static_cast<int>(tiles.judge(upper, minimum).result)];
         }
     }
     // The comparison means something only if every outcome occurred often.
     EXPECT_GT(outcomes[0], 1000);
     EXPECT_GT(outcomes[1], 1000);
     EXPECT_GT(outcomes[2], 200);
-    EXPECT_GT(boardOutcomes[1], 1000);
-    EXPECT_GT(boardOutcomes[2], 200);
+    EXPECT_GT(tileOutcomes[1], 1000);
+    EXPECT_GT(tileOutcomes[2], 200);
 }
 
 TEST(LetterColumns, NeededLettersInWordOrderLeftOverInRackOrder) {

@@ -12,6 +12,7 @@
 #include "engine/result_store.h"
 #include "support/engine_printing.h"
 #include "support/literal_selection_sort.h"
+#include "support/result_cells.h"
 
 #include <gtest/gtest.h>
 #include <new>
@@ -24,7 +25,8 @@ namespace lettriner {
 namespace {
 
 constexpr std::uint32_t kStart = kStartingEntry;
-using Rows = std::vector<MemoryResultList::Row>;
+using Rows = testing::CellRows;
+using testing::cellRows;
 
 std::vector<std::uint32_t> wordsOf(const std::vector<StoreEntry>& entries) {
     std::vector<std::uint32_t> words;
@@ -61,7 +63,7 @@ ResultStore storeOf(const std::vector<std::int16_t>& values) {
     return store;
 }
 
-TEST(SchlechteHaelfteLoeschen, KeepsTheBetterHalfAndWritesItsLowestValue) {
+TEST(Pruning, KeepsTheBetterHalfAndWritesItsLowestValue) {
     // clang-format off
     const std::tuple<const char*, std::vector<std::int16_t>, std::u16string, std::vector<std::uint32_t>, std::u16string> cases[] = {
         {"entries up to half the highest index", {5, 7, 6},    u"5",  {1, 2},      u"6"},
@@ -111,7 +113,7 @@ TEST(FinishStore, SortsAndRemovesOnlyTheStartingEntry) {
     }
 }
 
-TEST(ListeSpalteFuellen, AddsRowsForColumnZeroAndFillsOthersOnlyWhenCountsMatch) {
+TEST(ColumnFill, AddsRowsForColumnZeroAndFillsOthersOnlyWhenCountsMatch) {
     MemoryResultList list;
     list.addRow(u"X");
     ListeSpalteFüllen(list, 0, std::vector<std::u16string>{u"A", u"B"});
@@ -119,7 +121,7 @@ TEST(ListeSpalteFuellen, AddsRowsForColumnZeroAndFillsOthersOnlyWhenCountsMatch)
     ListeSpalteFüllen(list, 4, std::vector<std::u16string>{u"a", u"b", u"c"});
     const Rows filled = {
         {u"X", u"", u"5", u"", u"a"}, {u"A", u"", u"-3", u"", u"b"}, {u"B", u"", u"0", u"", u"c"}};
-    EXPECT_EQ(list.rows(), filled);
+    EXPECT_EQ(cellRows(list), filled);
     ListeSpalteFüllen(list, 1, std::vector<std::u16string>{u"1", u"2"});
     ListeSpalteFüllen(list, 3, std::vector<std::u16string>{u"1", u"2", u"3", u"4"});
     ListeSpalteFüllen(list, -1, std::vector<std::u16string>{u"D"});
@@ -127,7 +129,7 @@ TEST(ListeSpalteFuellen, AddsRowsForColumnZeroAndFillsOthersOnlyWhenCountsMatch)
     list.setSubItem(0, 1, u"row 0");
     list.setSubItem(4, 1, u"row 4");
     list.setSubItem(1, 5, u"column 5");
-    EXPECT_EQ(list.rows(), filled);
+    EXPECT_EQ(cellRows(list), filled);
 }
 
 // A list with room for two rows.
@@ -141,6 +143,9 @@ public:
     [[nodiscard]] std::int64_t rowCount() const override { return rows.rowCount(); }
     void setSubItem(std::int64_t row, int column, std::u16string text) override {
         rows.setSubItem(row, column, std::move(text));
+    }
+    void setSubItem(std::int64_t row, int column, std::int64_t number) override {
+        rows.setSubItem(row, column, number);
     }
     void clear() override { rows.clear(); }
     MemoryResultList rows;
@@ -156,9 +161,9 @@ TEST(PublishStore, WritesTheFiveColumnsInStoreOrderAgainstTheGivenRack) {
     store.entries() = {{1, 4}, {0, 10}, {2, 0}};
     MemoryResultList list;
     publishStore(store, words, u"FEX A", list);
-    EXPECT_EQ(list.rows(), (Rows{{u"FEE", u"3", u"4", u"e", u"x a"},
-                                 {u"BÄR", u"3", u"10", u"bär", u"fex a"},
-                                 {u"", u"0", u"0", u"", u"fex a"}}));
+    EXPECT_EQ(cellRows(list), (Rows{{u"FEE", u"3", u"4", u"e", u"x a"},
+                                    {u"BÄR", u"3", u"10", u"bär", u"fex a"},
+                                    {u"", u"0", u"0", u"", u"fex a"}}));
     TwoRowList tooSmall; // no half list: words without their values
     publishStore(store, words, u"FEX A", tooSmall);
     EXPECT_EQ(tooSmall.rowCount(), 0);

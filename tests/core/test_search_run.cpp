@@ -10,6 +10,7 @@
 #include "engine/prepared_words.h"
 #include "engine/result_list.h"
 #include "engine/search_run.h"
+#include "support/result_cells.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -20,7 +21,8 @@
 namespace lettriner {
 namespace {
 
-using Rows = std::vector<MemoryResultList::Row>;
+using Rows = testing::CellRows;
+using testing::cellRows;
 using Events = std::vector<std::u16string>;
 using Words = std::vector<std::u16string>;
 
@@ -50,8 +52,12 @@ public:
     void drawProgress(std::int16_t percent) override {
         events.push_back(u"progress " + decimalText(percent));
     }
-    void setElapsedText(std::u16string text) override { events.push_back(u"time " + text); }
-    void setFoundText(std::u16string text) override { events.push_back(u"found " + text); }
+    void showElapsedSeconds(double seconds) override {
+        events.push_back(u"time " + formatOneDecimal(seconds, u','));
+    }
+    void showFoundCount(std::uint64_t count) override {
+        events.push_back(u"found " + foundCountText(count));
+    }
     std::u16string currentRack(std::u16string_view rackAtStart) override {
         events.push_back(u"rack read");
         return rackAtPublish.empty() ? std::u16string(rackAtStart) : rackAtPublish;
@@ -59,7 +65,6 @@ public:
     double secondsSinceMidnight() const override {
         return clockReads_++ == 0 ? 86399.5 : 0.5; // the first run crosses midnight
     }
-    char16_t decimalSeparator() const override { return u','; }
 
     [[nodiscard]] Events eventsStartingWith(std::u16string_view prefix) const {
         Events picked;
@@ -75,8 +80,8 @@ private:
 
 Words wordColumn(const MemoryResultList& list) {
     Words words;
-    for (const MemoryResultList::Row& row : list.rows())
-        words.push_back(row[0]);
+    for (const ResultRow& row : list.rows())
+        words.push_back(row.word);
     return words;
 }
 
@@ -197,10 +202,10 @@ TEST_F(SearchRunTest, LettersAreComparedInCapitalsAndTheRackIsReadAgainToPublish
     texts = {u"straße bär", u" b ", u"c d", u"0"};
     minimum.setText(u"0");
     search();
-    EXPECT_EQ(mainList.rows(), (Rows{{u"BÄR", u"3", u"8", u"", u"staße r"},
-                                     {u"BÄR", u"3", u"8", u"", u"staße r"},
-                                     {u"AB", u"2", u"3", u"", u"strße är"},
-                                     {u"B A", u"3", u"3", u"", u"strßeär"}}));
+    EXPECT_EQ(cellRows(mainList), (Rows{{u"BÄR", u"3", u"8", u"", u"staße r"},
+                                        {u"BÄR", u"3", u"8", u"", u"staße r"},
+                                        {u"AB", u"2", u"3", u"", u"strße är"},
+                                        {u"B A", u"3", u"3", u"", u"strßeär"}}));
     EXPECT_TRUE(bonusList.rows().empty());
     EXPECT_TRUE(window.eventsStartingWith(u"show bonus").empty());
 
@@ -208,7 +213,7 @@ TEST_F(SearchRunTest, LettersAreComparedInCapitalsAndTheRackIsReadAgainToPublish
     texts = {u"fee", u"", u"", u"0"};
     window.rackAtPublish = u"FEX A";
     search();
-    EXPECT_EQ(mainList.rows(), (Rows{{u"FEE", u"3", u"16", u"e", u"x a"}}));
+    EXPECT_EQ(cellRows(mainList), (Rows{{u"FEE", u"3", u"16", u"e", u"x a"}}));
     EXPECT_EQ(bonusList.rows(), mainList.rows());
 }
 

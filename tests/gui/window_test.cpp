@@ -3,6 +3,7 @@
 
 #include "data/number_format.h"
 #include "data/word_database.h"
+#include "display/result_texts.h"
 #include "engine/headless_search.h"
 #include "engine/letter_values.h"
 #include "support/address_space.h"
@@ -60,9 +61,9 @@ QStringList cells(const ResultTableModel& list, int columns = 1) {
 
 QStringList cells(const MemoryResultList& list) {
     QStringList texts;
-    for (const MemoryResultList::Row& row : list.rows())
-        for (const std::u16string& cell : row)
-            texts.append(QString::fromStdU16String(cell));
+    for (const ResultRow& row : list.rows())
+        for (int column = 0; column < kResultColumns; ++column)
+            texts.append(QString::fromStdU16String(cellText(row, column)));
     return texts;
 }
 
@@ -98,8 +99,8 @@ void fillRows(ResultTableModel& list, const QString& rows) {
     for (const QString& row : rows.split(", ", Qt::SkipEmptyParts)) {
         const QStringList cell = row.split(' ');
         list.addRow(cell[0].toStdU16String());
-        list.setSubItem(list.rowCount(), 1, cell[1].toStdU16String());
-        list.setSubItem(list.rowCount(), 2, cell[2].toStdU16String());
+        list.setSubItem(list.rowCount(), kLengthColumn, cell[1].toLongLong());
+        list.setSubItem(list.rowCount(), kValueColumn, cell[2].toLongLong());
     }
     list.publishFinished();
 }

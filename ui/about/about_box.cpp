@@ -2,6 +2,7 @@
 #include "ui/about/about_box.h"
 
 #include "ui/about/svg_picture.h"
+#include "ui/shared/twips.h"
 
 #include <QCloseEvent>
 #include <QDesktopServices>
@@ -32,11 +33,8 @@ constexpr std::int16_t kVersionMinor = LETTRINER_VERSION_MINOR;
 constexpr std::int16_t kVersionRevision = LETTRINER_VERSION_REVISION;
 
 // Control positions are kept in the twips the layout was drawn in.
-constexpr int kTwipsPerPixel = 15;
-
 QRect twips(int left, int top, int width, int height) {
-    return {left / kTwipsPerPixel, top / kTwipsPerPixel, width / kTwipsPerPixel,
-            height / kTwipsPerPixel};
+    return ui::TwipsRect{left, top, width, height}.toPixels();
 }
 
 // The layout was drawn for "MS Sans Serif"; where it is missing the style hint
@@ -102,7 +100,7 @@ frmAbout::frmAbout(QWidget* mainWindow)
     setObjectName(QStringLiteral("frmAbout"));
     setWindowFlag(Qt::MSWindowsFixedSizeDialogHint);
     setAttribute(Qt::WA_QuitOnClose, false);
-    setFixedSize(6225 / kTwipsPerPixel, 5130 / kTwipsPerPixel);
+    setFixedSize(ui::twips(6225), ui::twips(5130));
     setWindowIcon(aboutIcon());
     setFont(dialogFont(8.25, false));
     // The texts sit on a light picture, so they stay dark whatever the desktop
@@ -133,7 +131,7 @@ void frmAbout::createControls() {
     QPalette rule = Line2->palette();
     rule.setColor(QPalette::WindowText, QColor(0x4a, 0x6f, 0x99));
     Line2->setPalette(rule);
-    Line2->setGeometry(twips(1200, 1080, 6000 - 1200, kTwipsPerPixel));
+    Line2->setGeometry(twips(1200, 1080, 6000 - 1200, ui::kTwipsPerPixel));
     // A drawn rule, not a control: the pointer sees the background through it.
     Line2->setAttribute(Qt::WA_TransparentForMouseEvents);
 

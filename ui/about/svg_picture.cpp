@@ -1,27 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/about/svg_picture.h"
 
-#include <QImage>
+#include "ui/shared/svg_render.h"
+
 #include <QPainter>
 
 namespace lettriner {
-
-namespace {
-
-QPixmap renderSvg(QSvgRenderer& renderer, QSize pixels, qreal ratio) {
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    if (renderer.isValid()) {
-        QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(pixels)));
-    }
-    QPixmap pixmap = QPixmap::fromImage(image);
-    pixmap.setDevicePixelRatio(ratio);
-    return pixmap;
-}
-
-} // namespace
 
 SvgPicture::SvgPicture(const QString& resource, QWidget* parent)
     : QWidget(parent), renderer_(resource) {}
@@ -34,8 +18,7 @@ void SvgPicture::setBorder(bool on) {
 }
 
 QPixmap SvgPicture::rendered(const QString& resource, QSize size) {
-    QSvgRenderer renderer(resource);
-    return renderSvg(renderer, size, 1.0);
+    return ui::renderSvg(resource, size, 1.0);
 }
 
 void SvgPicture::paintEvent(QPaintEvent* /*event*/) {
@@ -44,7 +27,7 @@ void SvgPicture::paintEvent(QPaintEvent* /*event*/) {
     if (pixels.isEmpty())
         return;
     if (cache_.size() != pixels || cache_.devicePixelRatio() != ratio)
-        cache_ = renderSvg(renderer_, pixels, ratio);
+        cache_ = ui::renderSvg(renderer_, size(), ratio);
 
     QPainter painter(this);
     painter.drawPixmap(0, 0, cache_);

@@ -4,7 +4,7 @@
 // its container. Start-up moves only the cover, the stop button and the two
 // result lists away from these places.
 
-#include "ui/main/twips.h"
+#include "ui/shared/twips.h"
 
 namespace lettriner::ui::design {
 

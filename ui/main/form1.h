@@ -5,12 +5,20 @@
 // while the word list loads. It owns the search and drives it through the
 // SearchWindow hooks: the run yields to the event loop, paced so that a pass
 // happens every few milliseconds rather than after every word.
+//
+// Its code, a file per job:
+//   form1.cpp          the controls as designed: places, texts, tab order, names
+//   form1_startup.cpp  start-up under the loading cover, the cover, shutdown
+//   form1_keys.cpp     the keys: Enter, Esc and F1, each its own handler
+//   form1_pointer.cpp  the banner's border following the pointer
+//   form1_lists.cpp    the result lists, the bonus list's place, header sorts
+//   form1_search.cpp   the search and stop buttons and the run's hooks
 
 #include "engine/prepared_words.h"
 #include "engine/search_run.h"
 #include "ui/main/input_fields.h"
 #include "ui/main/paced_yield.h"
-#include "ui/main/twips.h"
+#include "ui/shared/twips.h"
 
 #include <QWidget>
 #include <cstdint>
@@ -50,13 +58,8 @@ public:
     // Every missing file is tolerated; it always gets to the end.
     void Form_Load();
 
-    [[nodiscard]] std::int16_t MindestWert() const { return minimumValue_.value(); }
-    [[nodiscard]] std::int16_t MaxUB() const { return fieldSize_.value(); }
     [[nodiscard]] std::int32_t SortRichtung() const { return sortRichtung_; }
-    [[nodiscard]] std::int16_t ListenAbstand() const { return listenAbstand_; }
-    [[nodiscard]] bool LadenFertig() const { return ladenFertig_; }
     [[nodiscard]] std::int16_t LadeTakte() const { return ladeTakte_; }
-    [[nodiscard]] std::int16_t Sprache() const { return sprache_; }
     [[nodiscard]] bool isSearching() const { return run_.isRunning(); }
     [[nodiscard]] std::size_t wordCount() const { return words_.size(); }
 
@@ -111,8 +114,13 @@ private:
     void fitOuterHeight();
     [[nodiscard]] QSize nonClientSize() const;
     [[nodiscard]] QSize outerSizeTwips() const;
-    // Key preview: Enter, Esc and F1 for the whole window, before the focused control.
-    bool previewKey(QKeyEvent& key);
+    // Key preview: Enter, Esc and F1 for the whole window, before the focused
+    // control. Each handler returns whether it consumed the key.
+    bool previewKey(const QKeyEvent& key);
+    bool onEnterKey();
+    bool onEscapeKey();
+    bool onF1Key();
+    void pointerMovedOverFrame(const QWidget& frame, const QMouseEvent& move);
     void yieldToEvents();
 
     std::filesystem::path programFolder_;

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The search button, the stop button, the progress timer and the result
-// lists' part in a search: showing and hiding the bonus list, sorting on a
-// header click.
+// The search: the search and stop buttons, the progress timer, and the
+// hooks through which a run yields to the window and shows its progress.
 
+#include "data/number_format.h"
 #include "data/text_case.h"
+#include "display/result_texts.h"
 #include "ui/main/design_layout.h"
 #include "ui/main/form1.h"
 #include "ui/main/progress_box.h"
@@ -61,12 +62,14 @@ void Form1::Search::drawProgress(std::int16_t percent) {
     ProgressMalen(*form_.picProgress_, percent);
 }
 
-void Form1::Search::setElapsedText(std::u16string text) {
-    form_.txtSuchZeit_->setText(QString::fromStdU16String(text));
+void Form1::Search::showElapsedSeconds(double seconds) {
+    const QString point = QLocale().decimalPoint();
+    const char16_t separator = point.isEmpty() ? u'.' : point.front().unicode();
+    form_.txtSuchZeit_->setText(QString::fromStdU16String(formatOneDecimal(seconds, separator)));
 }
 
-void Form1::Search::setFoundText(std::u16string text) {
-    form_.lblInfos_->setText(QString::fromStdU16String(text));
+void Form1::Search::showFoundCount(std::uint64_t count) {
+    form_.lblInfos_->setText(QString::fromStdU16String(foundCountText(count)));
 }
 
 std::u16string Form1::Search::currentRack(std::u16string_view /*rackAtStart*/) {
@@ -76,11 +79,6 @@ std::u16string Form1::Search::currentRack(std::u16string_view /*rackAtStart*/) {
 
 double Form1::Search::secondsSinceMidnight() const {
     return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
-}
-
-char16_t Form1::Search::decimalSeparator() const {
-    const QString point = QLocale().decimalPoint();
-    return point.isEmpty() ? u'.' : point.front().unicode();
 }
 
 void Form1::yieldToEvents() {
@@ -105,35 +103,6 @@ void Form1::cmdStop_Click() {
 
 void Form1::Timer1_Timer() {
     run_.raiseProgressFlag();
-}
-
-void Form1::AbständeFestlegen() {
-    listenAbstand_ = static_cast<std::int16_t>(design::Frame1.height - list1_.height);
-}
-
-void Form1::placeLists() {
-    ListView1_->setGeometry(list1_.toPixels());
-    ListView2_->setGeometry(list2_.toPixels());
-}
-
-void Form1::CheckerVerstecken() {
-    ListView2_->hide();
-    list1_.height = design::Frame1.height - listenAbstand_;
-    placeLists();
-}
-
-void Form1::CheckerAnschalten() {
-    ListView2_->show();
-    list1_.height /= 2;
-    list2_.top = list1_.top + list1_.height + 300;
-    list2_.height = list1_.height - 600;
-    placeLists();
-}
-
-void Form1::ListView1_ColumnClick(int column) {
-    // The direction turns first, one for all columns: a fresh window sorts descending.
-    sortRichtung_ = sortRichtung_ == 0 ? 1 : 0;
-    ListeSortieren(*model1_, column, columnSortKind(column), sortRichtung_);
 }
 
 } // namespace lettriner::ui

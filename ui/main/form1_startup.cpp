@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Start-up under the loading cover, the cover's dot animation, the window's
-// key preview and pointer effects, and shutdown.
+// Start-up under the loading cover, the cover's dot animation, the outer
+// height fitted to the window manager's frame, and shutdown.
 
 #include "data/number_format.h"
 #include "data/settings_file.h"
 #include "data/word_database.h"
+#include "display/result_texts.h"
 #include "engine/letter_values.h"
 #include "ui/main/banner.h"
 #include "ui/main/design_layout.h"
@@ -87,7 +88,7 @@ void Form1::Form_Load() {
     // prepare counts as empty.
     const auto highestIndex = static_cast<std::int64_t>(words_.size()) - 1;
     lblDBCount_->setText(
-        QString::fromStdU16String(lettriner::databaseCountText(highestIndex, groupSeparator()))
+        QString::fromStdU16String(databaseCountText(highestIndex, groupSeparator()))
             .replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
 
     ladenFertig_ = true;
@@ -135,90 +136,10 @@ void Form1::Timer2_Timer() {
     yieldToEvents();
 }
 
-void Form1::ListViewAussehen(QTableView& liste) {
-    liste.setSelectionBehavior(QAbstractItemView::SelectRows);
-    liste.setSelectionMode(QAbstractItemView::SingleSelection);
-    liste.setShowGrid(true);
-    liste.setEditTriggers(QAbstractItemView::NoEditTriggers);
-    liste.verticalHeader()->hide();
-    liste.verticalHeader()->setDefaultSectionSize(liste.fontMetrics().height() + 4);
-    liste.horizontalHeader()->setHighlightSections(false);
-    liste.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    liste.horizontalHeader()->setSectionsMovable(false);
-    liste.horizontalHeader()->setStretchLastSection(false);
-    liste.setWordWrap(false);
-    // The selection stays visible when the list loses the focus.
-    QPalette palette = liste.palette();
-    for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText})
-        palette.setColor(QPalette::Inactive, role, palette.color(QPalette::Active, role));
-    liste.setPalette(palette);
-    // Only the header click sorts, and only the first list.
-    ListView1_->setSortingEnabled(false);
-}
-
-void Form1::ListViewSpalten(QTableView& liste) {
-    const int listWidth = (&liste == ListView1_ ? list1_ : list2_).width;
-    const int columnWidth = twips((listWidth - 50) / 5);
-    for (int column = 0; column < kResultColumns; ++column)
-        liste.setColumnWidth(column, columnWidth);
-}
-
 void Form1::closeEvent(QCloseEvent* event) {
     // Nothing to ask or save: the program ends here, also from inside a search.
     event->accept();
     exitNow_();
-}
-
-void Form1::mouseMoveEvent(QMouseEvent* event) {
-    if (childAt(event->position().toPoint()) == nullptr)
-        Picture1_->setBorder(true);
-    QWidget::mouseMoveEvent(event);
-}
-
-bool Form1::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress && watched->isWidgetType()) {
-        auto* target = static_cast<QWidget*>(watched);
-        // A key passed on to parents comes by again: act only where it was sent.
-        QWidget* first = focusWidget() != nullptr ? focusWidget() : this;
-        if (target == first && target->window() == this)
-            return previewKey(*static_cast<QKeyEvent*>(event));
-        return false;
-    }
-    // The frames' moves come by here too, as every event of the program does.
-    if (event->type() == QEvent::MouseMove && (watched == Frame1_ || watched == Frame2_)) {
-        const auto* frame = static_cast<QWidget*>(watched);
-        const auto* move = static_cast<QMouseEvent*>(event);
-        // The frame's bare surface only; moves over its controls change nothing.
-        if (frame->childAt(move->position().toPoint()) == nullptr)
-            Picture1_->setBorder(true);
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
-bool Form1::previewKey(QKeyEvent& key) {
-    switch (key.key()) {
-    case Qt::Key_F1:
-        openAboutBox();
-        return false; // seen, not consumed
-    case Qt::Key_Return:
-    case Qt::Key_Enter: {
-        // A focused button takes Enter itself; elsewhere it presses the search button.
-        auto* button = qobject_cast<QPushButton*>(focusWidget());
-        if (button == nullptr)
-            button = cmdSuchen_;
-        if (!button->isVisibleTo(this))
-            return false;
-        button->click();
-        return true;
-    }
-    case Qt::Key_Escape:
-        if (!cmdStop_->isVisibleTo(this))
-            return false;
-        cmdStop_->click();
-        return true;
-    default:
-        return false;
-    }
 }
 
 } // namespace lettriner::ui

@@ -1,50 +1,54 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main/list_sort.h"
 
-#include <QLocale>
+#include "display/result_texts.h"
+
 #include <algorithm>
+#include <optional>
 
 namespace lettriner::ui {
 namespace {
 
 // The cell read is bounded like the list control's 513-byte buffer.
-constexpr qsizetype kCellReadLength = 512;
-
-double cellNumber(const QString& text) {
-    bool ok = false;
-    double number = QLocale().toDouble(text, &ok);
-    if (!ok)
-        number = QLocale::c().toDouble(text, &ok);
-    return ok ? number : 0.0;
-}
+constexpr std::size_t kCellReadLength = 512;
 
 // -1, 0 or 1 as a is before, equal to or after b.
-int orderOf(const QString& a, const QString& b, SortKind kind) {
-    if (kind == SortKind::Number) {
-        const double x = cellNumber(a);
-        const double y = cellNumber(b);
-        return x < y ? -1 : (x > y ? 1 : 0);
-    }
-    // QString compares UTF-16 code units: no locale, case-sensitive.
-    const int c = QString::compare(a, b, Qt::CaseSensitive);
-    return c < 0 ? -1 : (c > 0 ? 1 : 0);
+template <class T> int orderOf(const T& a, const T& b) {
+    return a < b ? -1 : (a > b ? 1 : 0);
+}
+
+std::optional<std::int64_t> numberIn(const ResultRow& row, std::int32_t column) {
+    const std::optional<std::int64_t>* number = numberCell(row, column);
+    return number != nullptr ? *number : std::nullopt;
 }
 
 } // namespace
 
-QString ListenZelleLesen(const SortierInfo& info, const ResultRow& row) {
-    if (info.column < 0 || info.column >= row.size())
-        return {};
-    return row.at(info.column).left(kCellReadLength);
+std::u16string ListenZelleLesen(const SortierInfo& info, const ResultRow& row) {
+    std::u16string text = cellText(row, info.column);
+    if (text.size() > kCellReadLength)
+        text.resize(kCellReadLength);
+    return text;
 }
 
 std::int32_t ListenVergleich(const ResultRow& row1, const ResultRow& row2,
                              const SortierInfo& info) {
-    const QString t1 = ListenZelleLesen(info, row1);
-    const QString t2 = ListenZelleLesen(info, row2);
-    if (t1 == t2)
-        return 0;
-    const int order = orderOf(t1, t2, info.kind);
+    int order = 0;
+    if (info.kind == SortKind::Number) {
+        // Equal cells show equal texts: both empty, or the same number.
+        const std::optional<std::int64_t> n1 = numberIn(row1, info.column);
+        const std::optional<std::int64_t> n2 = numberIn(row2, info.column);
+        if (n1 == n2 && (n1 || ListenZelleLesen(info, row1) == ListenZelleLesen(info, row2)))
+            return 0;
+        order = orderOf(n1.value_or(0), n2.value_or(0));
+    } else {
+        const std::u16string t1 = ListenZelleLesen(info, row1);
+        const std::u16string t2 = ListenZelleLesen(info, row2);
+        if (t1 == t2)
+            return 0;
+        // Code unit by code unit: no locale, case-sensitive.
+        order = t1 < t2 ? -1 : 1;
+    }
     // Equal numbers written differently fall through to 1 in either direction.
     if (info.direction == 0)
         return order < 0 ? -1 : 1;

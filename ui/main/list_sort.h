@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The order of a header click on the result list: ListenVergleich compares
-// two rows by one column, as text (code unit by code unit) or as numbers, and
-// sortRows orders all rows by it.
+// two rows by one column, as text (code unit by code unit) or by their
+// numbers, and sortRows orders all rows by it.
 //
 // ListenVergleich is not a strict weak order for every input (two different
 // texts of equal value give 1 both ways round), so it must not be handed to
 // std::sort; sortRows is a merge sort that only ever asks "is the result < 0"
 // and so ends, and keeps every row, whatever the comparison answers.
 
-#include <QString>
-#include <QStringList>
+#include "engine/result_row.h"
+
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -27,15 +27,12 @@ struct SortierInfo {
     std::int32_t direction = 0;
 };
 
-// A result row: the five cell texts.
-using ResultRow = QStringList;
+// A cell as the comparison sees it: its text as the list shows it, at most
+// 512 characters, and empty when the row has no such column.
+[[nodiscard]] std::u16string ListenZelleLesen(const SortierInfo& info, const ResultRow& row);
 
-// A cell as the comparison sees it: at most 512 characters, and empty when
-// the row has no such column.
-[[nodiscard]] QString ListenZelleLesen(const SortierInfo& info, const ResultRow& row);
-
-// -1 puts row1 first, 1 puts row2 first, 0 for identical cell texts. Numbers
-// are read in the user's locale; a cell that is no number counts as 0.
+// -1 puts row1 first, 1 puts row2 first, 0 for identical cell texts. The
+// number kind compares the cells' numbers; a cell without one counts as 0.
 [[nodiscard]] std::int32_t ListenVergleich(const ResultRow& row1, const ResultRow& row2,
                                            const SortierInfo& info);
 

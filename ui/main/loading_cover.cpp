@@ -3,7 +3,7 @@
 
 #include "ui/main/design_layout.h"
 #include "ui/main/input_fields.h"
-#include "ui/main/twips.h"
+#include "ui/shared/twips.h"
 
 namespace lettriner::ui {
 namespace {

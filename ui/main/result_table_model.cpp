@@ -1,24 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main/result_table_model.h"
 
-#include <array>
+#include "display/result_texts.h"
 
 namespace lettriner::ui {
-namespace {
-
-const std::array<QString, kResultColumns> kCaptions = {
-    QStringLiteral("Wort"), QStringLiteral("Wortlänge"), QStringLiteral("Wortwert"),
-    QStringLiteral("Benötigte"), QStringLiteral("Übrigbleibende")};
-
-ResultRow emptyRow() {
-    ResultRow row;
-    row.reserve(kResultColumns);
-    for (int column = 0; column < kResultColumns; ++column)
-        row.append(QString());
-    return row;
-}
-
-} // namespace
 
 ResultTableModel::ResultTableModel(QObject* parent) : QAbstractTableModel(parent) {}
 
@@ -35,7 +20,7 @@ QVariant ResultTableModel::data(const QModelIndex& index, int role) const {
         index.column() >= kResultColumns)
         return {};
     if (role == Qt::DisplayRole)
-        return rows_[static_cast<std::size_t>(index.row())].at(index.column());
+        return cell(index.row(), index.column());
     return {};
 }
 
@@ -43,7 +28,8 @@ QVariant ResultTableModel::headerData(int section, Qt::Orientation orientation, 
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 ||
         section >= kResultColumns)
         return {};
-    return kCaptions[static_cast<std::size_t>(section)];
+    const std::u16string_view caption = columnCaption(section);
+    return QString::fromUtf16(caption.data(), static_cast<qsizetype>(caption.size()));
 }
 
 Qt::ItemFlags ResultTableModel::flags(const QModelIndex& index) const {
@@ -53,26 +39,43 @@ Qt::ItemFlags ResultTableModel::flags(const QModelIndex& index) const {
 }
 
 void ResultTableModel::addRow(std::u16string text) {
-    ResultRow row = emptyRow();
-    row[0] = QString::fromStdU16String(text);
-    staged_.push_back(std::move(row));
+    staged_.emplace_back().word = std::move(text);
 }
 
 std::int64_t ResultTableModel::rowCount() const {
     return static_cast<std::int64_t>(rows_.size() + staged_.size());
 }
 
-void ResultTableModel::setSubItem(std::int64_t row, int column, std::u16string text) {
-    if (row < 1 || row > rowCount() || column < 1 || column >= kResultColumns)
-        return;
+ResultRow* ResultTableModel::writable(std::int64_t row, int column) {
+    if (row < 1 || row > rowCount() || column < 1)
+        return nullptr;
     const auto index = static_cast<std::size_t>(row - 1);
-    if (index >= rows_.size()) {
-        staged_[index - rows_.size()][column] = QString::fromStdU16String(text);
-        return;
+    return index < rows_.size() ? &rows_[index] : &staged_[index - rows_.size()];
+}
+
+void ResultTableModel::cellChanged(std::int64_t row, int column) {
+    if (row <= static_cast<std::int64_t>(rows_.size()) && column < kResultColumns) {
+        const QModelIndex changed = index(static_cast<int>(row - 1), column);
+        emit dataChanged(changed, changed, {Qt::DisplayRole});
     }
-    rows_[index][column] = QString::fromStdU16String(text);
-    const QModelIndex changed = this->index(static_cast<int>(index), column);
-    emit dataChanged(changed, changed, {Qt::DisplayRole});
+}
+
+void ResultTableModel::setSubItem(std::int64_t row, int column, std::u16string text) {
+    if (ResultRow* target = writable(row, column)) {
+        if (std::u16string* cell = textCell(*target, column)) {
+            *cell = std::move(text);
+            cellChanged(row, column);
+        }
+    }
+}
+
+void ResultTableModel::setSubItem(std::int64_t row, int column, std::int64_t number) {
+    if (ResultRow* target = writable(row, column)) {
+        if (std::optional<std::int64_t>* cell = numberCell(*target, column)) {
+            *cell = number;
+            cellChanged(row, column);
+        }
+    }
 }
 
 void ResultTableModel::clear() {
@@ -127,7 +130,7 @@ void ResultTableModel::sortRows(const SortierInfo& info) {
 QString ResultTableModel::cell(int row, int column) const {
     if (row < 0 || row >= static_cast<int>(rows_.size()) || column < 0 || column >= kResultColumns)
         return {};
-    return rows_[static_cast<std::size_t>(row)].at(column);
+    return QString::fromStdU16String(cellText(rows_[static_cast<std::size_t>(row)], column));
 }
 
 } // namespace lettriner::ui

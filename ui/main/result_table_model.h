@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// A result list's rows behind a QTableView. The search writes through the
-// ResultList side: rows added and cells set after a clear are staged without
-// telling the view, and publishFinished() shows them with one model reset, so
-// a hundred thousand rows cost one layout, not one per row.
+// A result list's typed rows behind a QTableView, formatted only when the
+// view asks. The search writes through the ResultList side: rows added and
+// cells set after a clear are staged without telling the view, and
+// publishFinished() shows them with one model reset, so a hundred thousand
+// rows cost one layout, not one per row.
 
 #include "engine/result_list.h"
 #include "ui/main/list_sort.h"
 
 #include <QAbstractTableModel>
-#include <QStringList>
 #include <vector>
 
 namespace lettriner::ui {
@@ -33,6 +33,7 @@ public:
     void addRow(std::u16string text) override;
     [[nodiscard]] std::int64_t rowCount() const override;
     void setSubItem(std::int64_t row, int column, std::u16string text) override;
+    void setSubItem(std::int64_t row, int column, std::int64_t number) override;
     void clear() override;
     void publishFinished() override;
 
@@ -43,6 +44,11 @@ public:
     [[nodiscard]] QString cell(int row, int column) const;
 
 private:
+    // The row a cell of `column` may be written into (shown or staged), or null.
+    ResultRow* writable(std::int64_t row, int column);
+    // Tells the view when a shown row's cell changed.
+    void cellChanged(std::int64_t row, int column);
+
     std::vector<ResultRow> rows_;
     std::vector<ResultRow> staged_;
 };

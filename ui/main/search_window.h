@@ -19,11 +19,10 @@ public:
     void hideBonusList() override;
     void showBonusList() override;
     void drawProgress(std::int16_t percent) override;
-    void setElapsedText(std::u16string text) override;
-    void setFoundText(std::u16string text) override;
+    void showElapsedSeconds(double seconds) override;
+    void showFoundCount(std::uint64_t count) override;
     [[nodiscard]] std::u16string currentRack(std::u16string_view rackAtStart) override;
     [[nodiscard]] double secondsSinceMidnight() const override;
-    [[nodiscard]] char16_t decimalSeparator() const override;
 
 private:
     Form1& form_;

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main/svg_pictures.h"
 
-#include <QPainter>
-#include <QSvgRenderer>
+#include "ui/shared/svg_render.h"
 
 // The resource file is compiled into a static library: its registration has
 // to be pulled in by name.
@@ -15,15 +14,7 @@ namespace lettriner::ui {
 QPixmap svgPixmap(const QString& resourcePath, QSize size, qreal pixelRatio) {
     static const bool registered = (initPictures(), true);
     Q_UNUSED(registered);
-    QPixmap pixmap((QSizeF(size) * pixelRatio).toSize().expandedTo({1, 1}));
-    pixmap.setDevicePixelRatio(pixelRatio);
-    pixmap.fill(Qt::transparent);
-    QSvgRenderer renderer(resourcePath);
-    if (renderer.isValid()) {
-        QPainter painter(&pixmap);
-        renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
-    }
-    return pixmap;
+    return renderSvg(resourcePath, size, pixelRatio);
 }
 
 QIcon programIcon() {

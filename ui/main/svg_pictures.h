@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// The window's pictures are SVG files in the resource file, drawn with
-// QSvgRenderer so that no image plugin is needed at run time.
+// The main window's pictures: SVG files in its resource file, drawn by the
+// shared renderer.
 
 #include <QIcon>
 #include <QPixmap>

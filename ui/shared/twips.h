@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// The window is laid out in twips, 15 to a pixel at 96 dpi. Every position
+// Both windows are laid out in twips, 15 to a pixel at 96 dpi. Every position
 // and size goes through twips() once; Qt's high-DPI scaling does the rest.
 
 #include <QRect>

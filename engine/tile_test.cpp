@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "engine/board_test.h"
+#include "engine/tile_test.h"
 
 #include "data/numeric_value.h"
 #include "data/text_case.h"
@@ -60,9 +60,9 @@ struct CheapestLetters {
 
 } // namespace
 
-BoardTest::BoardTest(const LetterValueTable& values, std::u16string_view rack,
-                     std::u16string_view mandatory, std::u16string_view forbidden, double allowance,
-                     const BoardRules& rules)
+TileTest::TileTest(const LetterValueTable& values, std::u16string_view rack,
+                   std::u16string_view mandatory, std::u16string_view forbidden, double allowance,
+                   const TileRules& rules)
     : values_(values), rack_(rack), mandatory_(mandatory), forbidden_(forbidden),
       allowance_(allowance), rules_(rules), maxExtra_(wholeBound(allowance, 0)),
       rackLength_(static_cast<std::uint32_t>(rack.size())), rackCounts_(tileCounts(rack)) {
@@ -79,7 +79,7 @@ BoardTest::BoardTest(const LetterValueTable& values, std::u16string_view rack,
             summaryBoundsValue_ = false;
     }
     fixed_.fill(-1);
-    std::uint32_t boardLetters = 0;
+    std::uint32_t patternLetters = 0;
     std::uint32_t fixedCount = 0;
     for (std::size_t i = 0; i < rules_.pattern.size() && i < kLongestPattern; ++i) {
         if (rules_.pattern[i] == u'.')
@@ -88,20 +88,20 @@ BoardTest::BoardTest(const LetterValueTable& values, std::u16string_view rack,
         // A character outside the alphabet matches no byte of an alphabet word.
         fixed_[i] = static_cast<std::int8_t>(index >= 0 ? index : kAlphabetSize);
         if (index >= 0)
-            boardLetters |= 1u << index;
+            patternLetters |= 1u << index;
         ++fixedCount;
     }
     mandatoryOutsideAlphabet_ = (letterSet(mandatory_) & kOtherBit) != 0;
 
     // Every test here is a necessary condition; check() decides the rest.
     const auto blanks = static_cast<std::uint32_t>(rules_.blanks);
-    summary_.mandatory =
-        (letterSet(mandatory_) | letterSet(rules_.starts) | letterSet(rules_.ends) | boardLetters) &
-        kAlphabetBits;
+    summary_.mandatory = (letterSet(mandatory_) | letterSet(rules_.starts) |
+                          letterSet(rules_.ends) | patternLetters) &
+                         kAlphabetBits;
     summary_.rejected = letterSet(forbidden_) & kAlphabetBits;
     // A pattern letter may also stand where the rack has to cover it: such
     // letters count as present, not as missing.
-    summary_.missingMask = kAlphabetBits & ~rackLetters & ~boardLetters;
+    summary_.missingMask = kAlphabetBits & ~rackLetters & ~patternLetters;
     summary_.maxExtra = saturatedSum(maxExtra_, blanks);
     mostUncovered_ = summary_.maxExtra;
     fixedCount_ = fixedCount;
@@ -112,10 +112,10 @@ BoardTest::BoardTest(const LetterValueTable& values, std::u16string_view rack,
         std::max({rules_.minLength, static_cast<std::uint32_t>(rules_.starts.size()),
                   static_cast<std::uint32_t>(rules_.ends.size())});
     // Letters off the board: at most rack + blanks + allowance, or at most 2.
-    const double offBoardBound =
+    const double tileBound =
         static_cast<double>(rackLength_) + static_cast<double>(blanks) + allowance;
     summary_.maxLength =
-        std::min(rules_.maxLength, saturatedSum(wholeBound(offBoardBound, 2), fixedCount));
+        std::min(rules_.maxLength, saturatedSum(wholeBound(tileBound, 2), fixedCount));
     if (!rules_.pattern.empty()) {
         const auto length = static_cast<std::uint32_t>(rules_.pattern.size());
         summary_.minLength = std::max(summary_.minLength, length);
@@ -125,7 +125,7 @@ BoardTest::BoardTest(const LetterValueTable& values, std::u16string_view rack,
         summary_.maxLength = 0; // matches nothing
 }
 
-bool BoardTest::fitsBoard(const PreparedWords& words, std::size_t index) const {
+bool TileTest::fitsPattern(const PreparedWords& words, std::size_t index) const {
     // The summary test has checked the length against the pattern, starts and ends.
     const std::string_view bytes = words.bytes(index);
     for (std::size_t i = 0; i < rules_.pattern.size(); ++i) {
@@ -136,12 +136,12 @@ bool BoardTest::fitsBoard(const PreparedWords& words, std::size_t index) const {
            sameLetters(bytes.substr(bytes.size() - rules_.ends.size()), rules_.ends, words);
 }
 
-BoardVerdict BoardTest::check(const PreparedWords& words, std::size_t index,
-                              std::int16_t minimum) const {
+TileVerdict TileTest::check(const PreparedWords& words, std::size_t index,
+                            std::int16_t minimum) const {
     if (words.letters(index) & kOtherBit)
         return judge(words.upper(index), minimum);
     // Only alphabet letters from here on.
-    if (mandatoryOutsideAlphabet_ || (filtered_ && !fitsBoard(words, index)))
+    if (mandatoryOutsideAlphabet_ || (filtered_ && !fitsPattern(words, index)))
         return {};
     const std::string_view bytes = words.bytes(index);
     TileCounts tiles = rackCounts_;
@@ -187,26 +187,26 @@ BoardVerdict BoardTest::check(const PreparedWords& words, std::size_t index,
     return {bonus ? CheckResult::AcceptedAsBonus : CheckResult::Accepted, value};
 }
 
-BoardVerdict BoardTest::judge(std::u16string_view word, std::int16_t minimum,
-                              BoardLetters* letters) const {
+TileVerdict TileTest::judge(std::u16string_view word, std::int16_t minimum,
+                            TileLetters* letters) const {
     if (word.size() < rules_.minLength || word.size() > rules_.maxLength ||
         !word.starts_with(rules_.starts) || !word.ends_with(rules_.ends))
         return {};
     const bool patterned = !rules_.pattern.empty();
     if (patterned && (word.size() != rules_.pattern.size() || word.size() > kLongestPattern))
         return {};
-    const auto onBoard = [&](std::size_t position) {
+    const auto fixedByPattern = [&](std::size_t position) {
         return patterned && rules_.pattern[position] != u'.';
     };
-    std::size_t offBoard = word.size();
+    std::size_t notFixed = word.size();
     for (std::size_t position = 0; position < word.size(); ++position) {
-        if (onBoard(position) && word[position] != rules_.pattern[position])
+        if (fixedByPattern(position) && word[position] != rules_.pattern[position])
             return {};
-        offBoard -= onBoard(position) ? 1 : 0;
+        notFixed -= fixedByPattern(position) ? 1 : 0;
     }
-    const double offBoardBound =
+    const double tileBound =
         static_cast<double>(rack_.size()) + static_cast<double>(rules_.blanks) + allowance_;
-    if (!(static_cast<double>(offBoard) <= offBoardBound || offBoard <= 2))
+    if (!(static_cast<double>(notFixed) <= tileBound || notFixed <= 2))
         return {};
     for (const char16_t c : mandatory_) {
         if (word.find(c) == std::u16string_view::npos)
@@ -220,7 +220,7 @@ BoardVerdict BoardTest::judge(std::u16string_view word, std::int16_t minimum,
     std::u16string rackLeft = rack_;
     std::vector<std::size_t> uncovered;
     for (std::size_t position = 0; position < word.size(); ++position) {
-        if (onBoard(position))
+        if (fixedByPattern(position))
             continue;
         const std::size_t tile = rackLeft.find(word[position]);
         if (tile != std::u16string::npos)
@@ -255,7 +255,7 @@ BoardVerdict BoardTest::judge(std::u16string_view word, std::int16_t minimum,
             const char16_t lower = toLower(word[position]);
             if (cheapest.holds(position, blanksUsed))
                 letters->blanks += lower;
-            else if (onBoard(position) ||
+            else if (fixedByPattern(position) ||
                      std::find(uncovered.begin(), uncovered.end(), position) != uncovered.end())
                 letters->needed += lower;
         }

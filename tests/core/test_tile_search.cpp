@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Blanks and board patterns: the per-word judgement case by case (the
-// character-wise test and the prepared one must both give it), a whole
+// Blanks and patterns of board letters: the per-word judgement case by case
+// (the character-wise test and the prepared one must both give it), a whole
 // search with pruning and the bonus list, and the word check.
 
 #include "data/text_codec.h"
 #include "data/utf8.h"
 #include "data/word_database.h"
-#include "engine/board_search.h"
-#include "engine/board_test.h"
+#include "engine/headless_search.h"
+#include "engine/tile_test.h"
 #include "engine/word_lookup.h"
 #include "support/engine_printing.h"
 
@@ -50,7 +50,7 @@ struct Case {
     std::u16string_view blankLetters;
 };
 
-TEST(BoardTest, BlanksAndPatternsCoverLettersAsThePlayerWould) {
+TEST(TileTest, BlanksAndPatternsCoverLettersAsThePlayerWould) {
     // clang-format off
     const Case cases[] = {
         // name                                  rack    bl allow pattern   forb.  min  word       result  value needed  left  blanks
@@ -80,12 +80,12 @@ TEST(BoardTest, BlanksAndPatternsCoverLettersAsThePlayerWould) {
     const LetterValueTable values = gameValues();
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
-        BoardRules rules;
+        TileRules rules;
         rules.blanks = c.blanks;
         rules.pattern = c.pattern;
-        const BoardTest test(values, c.rack, u"", c.forbidden, c.allowance, rules);
-        BoardLetters letters;
-        const BoardVerdict judged = test.judge(c.word, c.minimum, &letters);
+        const TileTest test(values, c.rack, u"", c.forbidden, c.allowance, rules);
+        TileLetters letters;
+        const TileVerdict judged = test.judge(c.word, c.minimum, &letters);
         EXPECT_EQ(judged.result, c.result);
         EXPECT_EQ(judged.value, c.value);
         if (c.result != kNo) {
@@ -96,13 +96,13 @@ TEST(BoardTest, BlanksAndPatternsCoverLettersAsThePlayerWould) {
         const PreparedWords words(WordDatabase(std::u16string(c.word)), values);
         const bool passes =
             test.summary().passes(words, 0, test.summaryBoundsValue() ? c.minimum : INT16_MIN);
-        const BoardVerdict fast = passes ? test.check(words, 0, c.minimum) : BoardVerdict{};
+        const TileVerdict fast = passes ? test.check(words, 0, c.minimum) : TileVerdict{};
         EXPECT_EQ(fast.result, c.result);
         EXPECT_EQ(fast.value, c.value);
     }
 }
 
-TEST(BoardTest, StartsEndsAndLengthsFilterWords) {
+TEST(TileTest, StartsEndsAndLengthsFilterWords) {
     // clang-format off
     const std::tuple<const char*, std::u16string_view, std::u16string_view, std::uint32_t, std::uint32_t, CheckResult> cases[] = {
         {"starts with",        u"HA", u"",   0, UINT32_MAX, kYes},
@@ -119,16 +119,16 @@ TEST(BoardTest, StartsEndsAndLengthsFilterWords) {
     const PreparedWords words(WordDatabase(u"Haus"), values);
     for (const auto& [name, starts, ends, minLength, maxLength, expected] : cases) {
         SCOPED_TRACE(name);
-        const BoardRules rules{1,         u"",      std::u16string(starts), std::u16string(ends),
-                               minLength, maxLength};
-        const BoardTest test(values, u"HAUSE", u"", u"", 0, rules);
+        const TileRules rules{1,         u"",      std::u16string(starts), std::u16string(ends),
+                              minLength, maxLength};
+        const TileTest test(values, u"HAUSE", u"", u"", 0, rules);
         EXPECT_EQ(test.judge(u"HAUS", 0).result, expected);
         const bool passes = test.summary().passes(words, 0, INT16_MIN);
         EXPECT_EQ(passes ? test.check(words, 0, 0).result : kNo, expected);
     }
 }
 
-TEST(BoardSearch, StoresPrunesAndListsTheValueAfterBlanks) {
+TEST(TileSearch, StoresPrunesAndListsTheValueAfterBlanks) {
     // Field size 2: HEU prunes the store to its better half and raises the
     // minimum to 4, which HUT (3 after its blank) then misses.
     const PreparedWords words(WordDatabase(u"Haut\r\nHaus\r\nBär\r\nHeu\r\nHut\r\nHaust"),
@@ -137,17 +137,18 @@ TEST(BoardSearch, StoresPrunesAndListsTheValueAfterBlanks) {
     fields.texts = {u"HAUS", u"", u"", u"0"};
     fields.minimum = u"0";
     fields.fieldSize = u"2";
-    const BoardOutcome outcome = searchOnBoard(words, fields, {1, u"", u"", u"", 0, UINT32_MAX});
+    const HeadlessOutcome outcome =
+        searchWithoutWindow(words, fields, {1, u"", u"", u"", 0, UINT32_MAX});
     std::vector<std::tuple<std::string, int, std::string>> main;
-    for (const BoardRow& row : outcome.mainRows)
-        main.emplace_back(toUtf8(row.word), row.value, toUtf8(row.letters.blanks));
+    for (const ResultRow& row : outcome.mainList.rows())
+        main.emplace_back(toUtf8(row.word), row.value.value_or(-1), toUtf8(row.blanks));
     using Row = std::tuple<std::string, int, std::string>;
     EXPECT_EQ(main, (std::vector<Row>{{"HAUS", 5, ""}, {"HAUST", 5, "t"}, {"HAUT", 4, "t"}}));
     EXPECT_EQ(outcome.found, 4u);
     EXPECT_EQ(toUtf8(outcome.minimumText), "4");
     // Only HAUST uses every tile and the blank.
-    ASSERT_EQ(outcome.bonusRows.size(), 1u);
-    EXPECT_EQ(toUtf8(outcome.bonusRows[0].word), "HAUST");
+    ASSERT_EQ(outcome.bonusList.rows().size(), 1u);
+    EXPECT_EQ(toUtf8(outcome.bonusList.rows()[0].word), "HAUST");
     EXPECT_TRUE(outcome.bonusShown);
 }
 
