@@ -2,6 +2,11 @@
 #pragma once
 // Sprachen.txt in the program's folder: one message per tagged line, one TAB
 // field per language (language index i is field i + 1).
+//
+// The window's texts are fixed German and no window shows a message, so no
+// program calls this today. It stays because the file is part of the data the
+// program ships and documents (the build writes it, the README lists it), and
+// a message window would read its texts here, in the language of Settings.txt.
 
 #include <cstdint>
 #include <filesystem>

@@ -7,11 +7,8 @@ namespace lettriner {
 
 HeadlessOutcome searchWithoutWindow(const PreparedWords& words, const HeadlessFields& fields,
                                     const TileRules& tiles) {
-    // The design texts first, so a text out of range leaves the design value in force.
-    KeptNumberField minimum{std::u16string(SearchDefaults::minimum)};
-    minimum.setText(fields.minimum);
-    KeptNumberField fieldSize{std::u16string(SearchDefaults::fieldSize)};
-    fieldSize.setText(fields.fieldSize);
+    KeptNumberField minimum(SearchDefaults::minimum, fields.minimum);
+    KeptNumberField fieldSize(SearchDefaults::fieldSize, fields.fieldSize);
 
     HeadlessOutcome outcome;
     HeadlessWindow window;

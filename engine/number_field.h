@@ -22,6 +22,9 @@ class KeptNumberField final : public NumberField {
 public:
     // Like a field created with its design text: the value is read from it.
     explicit KeptNumberField(std::u16string text);
+    // Created with `designText`, then `typed` typed in: a typed text out of
+    // range leaves the design value in force.
+    KeptNumberField(std::u16string_view designText, std::u16string typed);
 
     [[nodiscard]] std::int16_t value() const override { return value_; }
     [[nodiscard]] std::u16string text() const override { return text_; }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/search_run.h"
 
-#include "data/number_format.h"
 #include "data/numeric_value.h"
 #include "data/text_case.h"
 

@@ -82,22 +82,29 @@ std::u16string leftOverLetters(std::u16string_view word, std::u16string_view rac
     return lowerCased(cover(word, rack).rackLeft);
 }
 
-std::vector<std::u16string> ZusBuchstabenFeld(const std::vector<std::u16string>& Feld,
-                                              std::u16string_view rack) {
+namespace {
+
+// `letters` of every word, against the same rack.
+template <class Letters>
+std::vector<std::u16string> letterColumn(const std::vector<std::u16string>& Feld,
+                                         std::u16string_view rack, Letters letters) {
     std::vector<std::u16string> column;
     column.reserve(Feld.size());
     for (const std::u16string& word : Feld)
-        column.push_back(neededLetters(word, rack));
+        column.push_back(letters(word, rack));
     return column;
+}
+
+} // namespace
+
+std::vector<std::u16string> ZusBuchstabenFeld(const std::vector<std::u16string>& Feld,
+                                              std::u16string_view rack) {
+    return letterColumn(Feld, rack, neededLetters);
 }
 
 std::vector<std::u16string> ÜbrigeBuchstFeld(const std::vector<std::u16string>& Feld,
                                              std::u16string_view rack) {
-    std::vector<std::u16string> column;
-    column.reserve(Feld.size());
-    for (const std::u16string& word : Feld)
-        column.push_back(leftOverLetters(word, rack));
-    return column;
+    return letterColumn(Feld, rack, leftOverLetters);
 }
 
 } // namespace lettriner

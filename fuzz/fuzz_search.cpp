@@ -97,10 +97,8 @@ void checkTileSearch(const PreparedWords& words, const HeadlessFields& fields,
 void checkAgainstLiteralRun(const PreparedWords& words, const WordDatabase& database,
                             const LetterValueTable& values, const LetterRules& letters,
                             const HeadlessFields& fields, const HeadlessOutcome& outcome) {
-    KeptNumberField minimum{std::u16string(SearchDefaults::minimum)};
-    minimum.setText(fields.minimum);
-    KeptNumberField fieldSize{std::u16string(SearchDefaults::fieldSize)};
-    fieldSize.setText(fields.fieldSize);
+    KeptNumberField minimum(SearchDefaults::minimum, fields.minimum);
+    KeptNumberField fieldSize(SearchDefaults::fieldSize, fields.fieldSize);
     ResultStore main;
     ResultStore bonus;
     std::uint64_t found = 0;
@@ -182,9 +180,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const HeadlessOutcome outcome = searchWithoutWindow(words, fields);
     checkAgainstLiteralRun(words, database, values, letters, fields, outcome);
     checkTileSearch(words, fields, rules, tiles, outcome);
-    KeptNumberField fieldSize{std::u16string(SearchDefaults::fieldSize)};
-    fieldSize.setText(texts[8]);
-    const std::int16_t fieldSizeValue = fieldSize.value();
+    const std::int16_t fieldSizeValue =
+        KeptNumberField(SearchDefaults::fieldSize, texts[8]).value();
     const MemoryResultList& mainList = outcome.mainList;
     const MemoryResultList& bonusList = outcome.bonusList;
 

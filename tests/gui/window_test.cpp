@@ -15,6 +15,7 @@
 #include "ui/main/progress_box.h"
 #include "ui/main/result_table_model.h"
 
+#include <QAbstractItemModelTester>
 #include <QAccessible>
 #include <QClipboard>
 #include <QDir>
@@ -92,6 +93,9 @@ struct LoadedWindow {
     TempFolder folder;
     CurrentFolder current{folder.path()};
     Form1 form{folder.path()};
+    // Qt's model checker watches both lists through every test.
+    QAbstractItemModelTester mainListChecked{&form.mainList()};
+    QAbstractItemModelTester bonusListChecked{&form.bonusList()};
 };
 
 // Rows of word, length and value, the other cells empty, as the search leaves them.

@@ -161,6 +161,9 @@ private:
     std::int16_t ladeTakte_ = 0;
     std::int16_t listenAbstand_ = 0;
     std::int32_t sortRichtung_ = 0;
+    // The language of Settings.txt. Read at start-up, which also writes the
+    // settings file when it is absent, as documented; nothing shows a message
+    // in another language yet, so nothing reads it afterwards.
     std::int16_t sprache_ = 0;
 
     lettriner::PreparedWords words_;

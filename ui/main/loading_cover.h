@@ -22,10 +22,6 @@ public:
     // One to six points, then one again.
     void advancePoints();
 
-    [[nodiscard]] QLabel* lblLaden1() const { return lblLaden1_; }
-    [[nodiscard]] QLabel* lblPunkte() const { return lblPunkte_; }
-    [[nodiscard]] QLabel* lblLettrino() const { return lblLettrino_; }
-
 private:
     QLabel* lblLaden1_;
     QLabel* lblPunkte_;

@@ -22,7 +22,6 @@ public:
 
     // Flat look and a kept drawing surface of the inner size, erased.
     void prepare();
-    [[nodiscard]] bool isPrepared() const { return !kept_.isNull(); }
     // For drawing into the kept surface; prepares it first when needed.
     [[nodiscard]] QPixmap& surface();
 
