@@ -61,8 +61,12 @@ void writeTsv(const Report& report, OutputSink& out) {
                  cellsOf(outcome.mainList.rows()));
     writeTsvRows(out, "bonus", outcome.bonusList.rows().size(), columnCount(report),
                  cellsOf(outcome.bonusList.rows()));
-    out.write("found\t" + std::to_string(outcome.found) + '\n');
-    out.write("min\t" + tsvCell(outcome.minimumText) + '\n');
+    std::string ending = "found\t";
+    ending += std::to_string(outcome.found);
+    ending += "\nmin\t";
+    ending += tsvCell(outcome.minimumText);
+    ending += '\n';
+    out.write(ending);
 }
 
 void writeTable(const Report& report, OutputSink& out) {
@@ -72,7 +76,9 @@ void writeTable(const Report& report, OutputSink& out) {
         out.write("\nBonuswörter (alle Steine verbraucht):\n");
         writeResultTable(report, outcome.bonusList.rows(), out);
     }
-    out.write("\n" + toUtf8(foundCountText(outcome.found)) + "\n");
+    out.write("\n");
+    out.write(toUtf8(foundCountText(outcome.found)));
+    out.write("\n");
 }
 
 void writeJson(const Report& report, OutputSink& out) {

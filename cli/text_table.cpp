@@ -71,8 +71,11 @@ void writeAlignedTable(OutputSink& out, const std::vector<std::u16string_view>& 
 
 void writeTsvRows(OutputSink& out, std::string_view name, std::size_t rows, std::size_t columns,
                   const CellText& cell) {
-    out.write(name);
-    out.write("\t" + std::to_string(rows) + "\n");
+    std::string header(name);
+    header += '\t';
+    header += std::to_string(rows);
+    header += '\n';
+    out.write(header);
     for (std::size_t row = 0; row < rows; ++row) {
         std::string line;
         for (std::size_t column = 0; column < columns; ++column) {

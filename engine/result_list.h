@@ -25,6 +25,8 @@ public:
     virtual void setSubItem(std::int64_t row, int column, std::int64_t number) = 0;
     // ListeZeilenLöschen: the list is empty afterwards.
     virtual void clear() = 0;
+    // Whole rows at the end, as a search with blanks or a pattern lists them.
+    virtual void addRows(std::vector<ResultRow> rows) = 0;
     // A hint before `count` rows are added, so storage grows once.
     virtual void reserveRows(std::int64_t /*count*/) {}
     // Called once all columns of a publish are written, so a view can show them in one go.
@@ -35,6 +37,9 @@ public:
 // written into, or null.
 [[nodiscard]] ResultRow* writableRow(std::vector<ResultRow>& rows, std::int64_t row, int column);
 
+// Appends `more` to `rows`, moving when `rows` is empty.
+void appendRows(std::vector<ResultRow>& rows, std::vector<ResultRow> more);
+
 class MemoryResultList final : public ResultList {
 public:
     void addRow(std::u16string text) override;
@@ -43,6 +48,7 @@ public:
     }
     void setSubItem(std::int64_t row, int column, std::u16string text) override;
     void setSubItem(std::int64_t row, int column, std::int64_t number) override;
+    void addRows(std::vector<ResultRow> rows) override;
     void clear() override { rows_.clear(); }
     void reserveRows(std::int64_t count) override;
 

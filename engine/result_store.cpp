@@ -88,21 +88,6 @@ template <class Cell> void fillColumn(ResultList& list, int column, std::vector<
         list.setSubItem(row, column, std::move(array[static_cast<std::size_t>(row - 1)]));
 }
 
-// Publishes the word and length columns, then whatever `otherColumns` writes.
-template <class OtherColumns>
-void publishColumns(const ResultStore& Feld, const PreparedWords& words, ResultList& list,
-                    OtherColumns otherColumns) {
-    try {
-        const std::vector<std::u16string> texts = storeWords(Feld, words);
-        ListeSpalteFüllen(list, kWordColumn, texts);
-        ListeSpalteFüllen(list, kLengthColumn, WortLängenFeld(texts));
-        otherColumns(texts);
-        list.publishFinished();
-    } catch (const std::bad_alloc&) {
-        list.clear(); // half-filled rows would show words without their values
-    }
-}
-
 } // namespace
 
 void ListeSpalteFüllen(ResultList& list, int column, std::vector<std::u16string> array) {
@@ -133,35 +118,42 @@ void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::int
 
 void publishStore(const ResultStore& Feld, const PreparedWords& words, std::u16string_view rack,
                   ResultList& list) {
-    publishColumns(Feld, words, list, [&](const std::vector<std::u16string>& texts) {
+    try {
+        const std::vector<std::u16string> texts = storeWords(Feld, words);
+        ListeSpalteFüllen(list, kWordColumn, texts);
+        ListeSpalteFüllen(list, kLengthColumn, WortLängenFeld(texts));
         ListeSpalteFüllen(list, kValueColumn, WortWertFeld(words.values(), texts));
         ListeSpalteFüllen(list, kNeededColumn, ZusBuchstabenFeld(texts, rack));
         ListeSpalteFüllen(list, kLeftOverColumn, ÜbrigeBuchstFeld(texts, rack));
-    });
+        list.publishFinished();
+    } catch (const std::bad_alloc&) {
+        list.clear(); // half-filled rows would show words without their values
+    }
 }
 
 void publishStore(const ResultStore& Feld, const PreparedWords& words, const TileTest& test,
                   ResultList& list) {
-    publishColumns(Feld, words, list, [&](const std::vector<std::u16string>& texts) {
-        const std::vector<StoreEntry>& entries = Feld.entries();
-        std::vector<std::int64_t> values;
-        std::vector<std::u16string> needed;
-        std::vector<std::u16string> leftOver;
-        std::vector<std::u16string> blanks;
-        for (std::size_t i = 0; i < entries.size(); ++i) {
+    try {
+        std::vector<ResultRow> rows(Feld.entries().size());
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            const StoreEntry& entry = Feld.entries()[i];
+            ResultRow& row = rows[i];
             TileLetters letters;
-            if (entries[i].word != kStartingEntry)
-                (void)test.judge(texts[i], INT16_MIN, &letters);
-            values.push_back(entries[i].value);
-            needed.push_back(std::move(letters.needed));
-            leftOver.push_back(std::move(letters.leftOver));
-            blanks.push_back(std::move(letters.blanks));
+            if (entry.word != kStartingEntry) {
+                row.word = words.upper(entry.word);
+                (void)test.judge(row.word, INT16_MIN, &letters);
+            }
+            row.length = static_cast<std::int64_t>(row.word.size());
+            row.value = entry.value;
+            row.needed = std::move(letters.needed);
+            row.leftOver = std::move(letters.leftOver);
+            row.blanks = std::move(letters.blanks);
         }
-        ListeSpalteFüllen(list, kValueColumn, values);
-        ListeSpalteFüllen(list, kNeededColumn, std::move(needed));
-        ListeSpalteFüllen(list, kLeftOverColumn, std::move(leftOver));
-        ListeSpalteFüllen(list, kBlanksColumn, std::move(blanks));
-    });
+        list.addRows(std::move(rows));
+        list.publishFinished();
+    } catch (const std::bad_alloc&) {
+        list.clear(); // half-filled rows would show words without their values
+    }
 }
 
 } // namespace lettriner

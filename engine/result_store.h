@@ -68,9 +68,9 @@ void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::int
 void publishStore(const ResultStore& Feld, const PreparedWords& words, std::u16string_view rack,
                   ResultList& list);
 
-// The same for a search with blanks or a pattern: the values as stored
-// (after the blanks), the letter columns as `test` gives them, and a sixth
-// column with the letters the blanks stand for.
+// The rows of a search with blanks or a pattern, added whole: the values as
+// stored (after the blanks), the letter columns as `test` gives them, and a
+// sixth column with the letters the blanks stand for.
 void publishStore(const ResultStore& Feld, const PreparedWords& words, const TileTest& test,
                   ResultList& list);
 

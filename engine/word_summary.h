@@ -47,27 +47,30 @@ void forEachCandidate(const WordSummaryTest& test, const PreparedWords& words, s
                       std::size_t to, const std::int16_t& minimum, Visit visit) {
     constexpr std::size_t kBlock = 512;
     std::array<std::uint8_t, kBlock> marks;
+    std::array<std::uint16_t, kBlock> marked; // positions in the block, in order
     for (std::size_t block = from; block < to; block += kBlock) {
         const std::size_t count = std::min(kBlock, to - block);
         test.mark(words, block, count, minimum, marks.data());
         std::fill(marks.begin() + static_cast<std::ptrdiff_t>(count),
                   marks.begin() + static_cast<std::ptrdiff_t>((count + 7) / 8 * 8), 0);
-        // Eight marks at a time: most blocks of a search hold none. The
-        // first pass asks for the marked words' bytes, which lie scattered
-        // over the list, so that the visits do not wait for them one by one.
-        const auto forEachMarked = [&](auto action) {
-            for (std::size_t j = 0; j < count; j += 8) {
-                std::uint64_t eight = 0;
-                std::memcpy(&eight, marks.data() + j, sizeof eight);
-                while (eight != 0) {
-                    // Each mark is 0 or 1, so a byte holds at most its lowest bit.
-                    action(block + j + static_cast<std::size_t>(std::countr_zero(eight)) / 8);
-                    eight &= eight - 1;
-                }
+        // Eight marks at a time: most blocks of a search hold none.
+        std::size_t found = 0;
+        for (std::size_t j = 0; j < count; j += 8) {
+            std::uint64_t eight = 0;
+            std::memcpy(&eight, marks.data() + j, sizeof eight);
+            while (eight != 0) {
+                // Each mark is 0 or 1, so a byte holds at most its lowest bit.
+                marked[found++] = static_cast<std::uint16_t>(
+                    j + static_cast<std::size_t>(std::countr_zero(eight)) / 8);
+                eight &= eight - 1;
             }
-        };
-        forEachMarked([&](std::size_t i) { __builtin_prefetch(words.bytes(i).data()); });
-        forEachMarked(visit);
+        }
+        // The marked words' bytes lie scattered over the list: asked for all
+        // at once, the visits do not wait for them one by one.
+        for (std::size_t k = 0; k < found; ++k)
+            __builtin_prefetch(words.bytes(block + marked[k]).data());
+        for (std::size_t k = 0; k < found; ++k)
+            visit(block + marked[k]);
     }
 }
 

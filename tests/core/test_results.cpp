@@ -147,6 +147,11 @@ public:
     void setSubItem(std::int64_t row, int column, std::int64_t number) override {
         rows.setSubItem(row, column, number);
     }
+    void addRows(std::vector<ResultRow> more) override {
+        if (rows.rowCount() + static_cast<std::int64_t>(more.size()) > 2)
+            throw std::bad_alloc();
+        rows.addRows(std::move(more));
+    }
     void clear() override { rows.clear(); }
     MemoryResultList rows;
 };

@@ -78,6 +78,10 @@ void ResultTableModel::setSubItem(std::int64_t row, int column, std::int64_t num
     }
 }
 
+void ResultTableModel::addRows(std::vector<ResultRow> rows) {
+    appendRows(staged_, std::move(rows));
+}
+
 void ResultTableModel::clear() {
     beginResetModel();
     rows_.clear();
@@ -89,13 +93,8 @@ void ResultTableModel::publishFinished() {
     if (staged_.empty())
         return;
     beginResetModel();
-    if (rows_.empty()) {
-        rows_.swap(staged_);
-    } else {
-        rows_.insert(rows_.end(), std::make_move_iterator(staged_.begin()),
-                     std::make_move_iterator(staged_.end()));
-        staged_.clear();
-    }
+    appendRows(rows_, std::move(staged_));
+    staged_.clear();
     endResetModel();
 }
 

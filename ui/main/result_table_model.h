@@ -34,6 +34,7 @@ public:
     [[nodiscard]] std::int64_t rowCount() const override;
     void setSubItem(std::int64_t row, int column, std::u16string text) override;
     void setSubItem(std::int64_t row, int column, std::int64_t number) override;
+    void addRows(std::vector<ResultRow> rows) override;
     void clear() override;
     void publishFinished() override;
 
