@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/cli_options.h"
 
+#include "cli/message_text.h"
+
 #include "data/text_case.h"
 #include "data/utf8.h"
 #include "engine/prepared_words.h"
 #include "engine/tile_test.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <string_view>
@@ -21,9 +24,10 @@ struct ValueOption {
     Apply apply;
 };
 
+// The value as typed, quoted and safe to show on a terminal.
 std::string quotedText(std::string_view value) {
     std::string text = "'";
-    text += value;
+    text += messageText(value);
     text += "'";
     return text;
 }
@@ -49,13 +53,17 @@ std::string blanks(Options& options, std::string_view name, std::string_view val
 template <std::u16string Options::*field, bool dotsAllowed>
 std::string letters(Options& options, std::string_view name, std::string_view value) {
     const std::u16string text = toUpper(fromUtf8(value));
-    for (const char16_t c : text) {
-        if (alphabetIndex(c) < 0 && !(dotsAllowed && c == u'.')) {
-            std::string error = "option ";
-            error += name;
-            error += dotsAllowed ? " takes letters and '.', not " : " takes letters only, not ";
-            return error + quotedText(toUtf8(std::u16string(1, c)));
-        }
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (alphabetIndex(text[i]) >= 0 || (dotsAllowed && text[i] == u'.'))
+            continue;
+        // The whole character, also when it takes two code units.
+        const bool pair = text[i] >= 0xD800 && text[i] <= 0xDBFF && i + 1 < text.size() &&
+                          text[i + 1] >= 0xDC00 && text[i + 1] <= 0xDFFF;
+        std::string error = "option ";
+        error += name;
+        error += dotsAllowed ? " takes letters and '.', not '" : " takes letters only, not '";
+        error += messageText(std::u16string_view(text).substr(i, pair ? 2 : 1));
+        return error + "'";
     }
     if (dotsAllowed && (text.empty() || text.size() > kLongestPattern)) {
         std::string error = "option ";
@@ -126,6 +134,11 @@ ParseResult parseOptions(const std::vector<std::string>& arguments) {
                 result.error = "option --check needs a word";
                 return result;
             }
+            if (std::find(options.checkWords.begin(), options.checkWords.end(), "") !=
+                options.checkWords.end()) {
+                result.error = "option --check takes words, not an empty text";
+                return result;
+            }
             continue;
         }
         if (argument.starts_with("-C")) {
@@ -161,9 +174,8 @@ ParseResult parseOptions(const std::vector<std::string>& arguments) {
             break;
         }
         if (!matched) {
-            result.error = argument.starts_with("-")
-                               ? "unknown option " + std::string(argument)
-                               : "unexpected argument " + std::string(argument);
+            result.error = argument.starts_with("-") ? "unknown option " + messageText(argument)
+                                                     : "unexpected argument " + messageText(argument);
             return result;
         }
     }
@@ -173,8 +185,9 @@ ParseResult parseOptions(const std::vector<std::string>& arguments) {
 std::string usageText() {
     return "Usage: lettriner-cli [OPTION]...\n"
            "Finds the best German words for a Lettrino rack, like the Lettriner window.\n"
-           "Reads DB1.txt, Bewertung1.txt and Bewertung2.txt from the current folder,\n"
-           "or from the installed word list's folder when the current one has no DB1.txt.\n"
+           "Reads DB1.txt, Bewertung1.txt and Bewertung2.txt from the current folder, or\n"
+           "from the installed word list's folder when the current one has no DB1.txt or\n"
+           "one without words.\n"
            "\n"
            "Each field option takes the text as it would be typed into the field:\n"
            "  --rack TEXT        tiles on the rack (default AFEEZHRB)\n"
@@ -207,9 +220,12 @@ std::string usageText() {
            "      --version      show the version and exit\n"
            "\n"
            "Options also take the form --rack=TEXT. A number out of range leaves the\n"
-           "field's default value in force. Exit status: 0 on success, 1 when the folder\n"
-           "cannot be entered or holds no DB1.txt or a checked word is not in the list,\n"
-           "2 on a usage error.\n";
+           "field's default value in force. An empty or unreadable data file is named\n"
+           "on standard error; no file is ever created.\n"
+           "\n"
+           "Exit status: 0 on success; 1 when the folder cannot be entered or holds no\n"
+           "DB1.txt, or a checked word is not in the list; 2 on a usage error; 3 when\n"
+           "memory runs out or a list had to be cut short for it.\n";
 }
 
 } // namespace lettriner::cli

@@ -19,9 +19,4 @@ installedDataFolder(const std::filesystem::path& programFolder) {
     return prefix / "share" / "lettriner";
 }
 
-bool holdsWordList(const std::filesystem::path& folder) {
-    std::error_code error;
-    return std::filesystem::is_regular_file(folder / "DB1.txt", error);
-}
-
 } // namespace lettriner::cli

@@ -4,26 +4,29 @@
 #include "cli/cli_options.h"
 #include "cli/cli_output.h"
 #include "cli/data_folder.h"
+#include "cli/data_loading.h"
 #include "data/program_folder.h"
 #include "data/text_case.h"
 #include "data/utf8.h"
-#include "data/word_database.h"
 #include "engine/headless_search.h"
-#include "engine/letter_values.h"
-#include "engine/prepared_words.h"
 #include "engine/word_lookup.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
-#include <filesystem>
-#include <iostream>
 #include <new>
 #include <string>
-#include <system_error>
 #include <vector>
 
 namespace {
+
+// The exit statuses, as the manual page lists them.
+enum ExitStatus : int {
+    kSuccess = 0,
+    kFailed = 1, // no word list, a checked word not in it, output that could not be written
+    kUsageError = 2,
+    kOutOfMemory = 3, // also a list cut short for it
+};
 
 std::u16string fieldText(const std::optional<std::string>& option, std::u16string_view fallback) {
     return option ? lettriner::fromUtf8(*option) : std::u16string(fallback);
@@ -40,65 +43,13 @@ lettriner::TileRules tileRules(const lettriner::cli::Options& options) {
     return rules;
 }
 
-} // namespace
+void tell(const std::string& message) {
+    std::fprintf(stderr, "lettriner-cli: %s\n", message.c_str());
+}
 
-// Memory that runs out leaves a list empty; should even the report not fit,
-// the program says so instead of aborting.
-int main(int argc, char** argv) try {
+int searchAndWrite(const lettriner::cli::Options& options, const lettriner::PreparedWords& words,
+                   lettriner::cli::Format format) {
     using namespace lettriner;
-    const cli::ParseResult parsed = cli::parseOptions({argv + 1, argv + argc});
-    if (!parsed.error.empty()) {
-        std::cerr << "lettriner-cli: " << parsed.error << "\n"
-                  << "Try 'lettriner-cli --help' for more information.\n";
-        return 2;
-    }
-    const cli::Options& options = parsed.options;
-    if (options.help) {
-        std::cout << cli::usageText();
-        return 0;
-    }
-    if (options.version) {
-        std::cout << "lettriner-cli " LETTRINER_VERSION "\n";
-        return 0;
-    }
-    std::error_code error;
-    if (options.directory) {
-        std::filesystem::current_path(*options.directory, error);
-        if (error) {
-            std::cerr << "lettriner-cli: cannot change to " << *options.directory << ": "
-                      << error.message() << '\n';
-            return 1;
-        }
-    } else if (!cli::holdsWordList(".")) {
-        const auto installed = cli::installedDataFolder(programFolder());
-        if (installed && cli::holdsWordList(*installed))
-            std::filesystem::current_path(*installed, error);
-    }
-    // Reading would leave empty data files behind; without a word list there
-    // is nothing to search anyway.
-    if (!cli::holdsWordList(".")) {
-        std::cerr << "lettriner-cli: DB1.txt not found in "
-                  << std::filesystem::current_path(error).string() << "; use -C DIR\n";
-        return 1;
-    }
-
-    const WordDatabase database = DatenbankEinlesen("DB1.txt");
-    const PreparedWords words(database, BewertungsFeldLaden());
-    const cli::Format format = options.json  ? cli::Format::Json
-                               : options.tsv ? cli::Format::Tsv
-                                             : cli::Format::Table;
-    if (!options.checkWords.empty()) {
-        std::vector<std::u16string> asked;
-        for (const std::string& word : options.checkWords)
-            asked.push_back(fromUtf8(word));
-        const std::vector<LookupResult> results = lookUpWords(words, asked);
-        const bool allFound = std::all_of(results.begin(), results.end(),
-                                          [](const LookupResult& result) { return result.found; });
-        cli::FileSink out(stdout);
-        cli::writeCheck(results, format, out);
-        return out.finish() && allFound ? 0 : 1;
-    }
-
     HeadlessFields fields;
     fields.texts = {toUpper(fieldText(options.rack, SearchDefaults::rack)),
                     toUpper(fieldText(options.mandatory, SearchDefaults::mandatory)),
@@ -109,8 +60,65 @@ int main(int argc, char** argv) try {
     const HeadlessOutcome outcome = searchWithoutWindow(words, fields, tileRules(options));
     cli::FileSink out(stdout);
     cli::writeReport({outcome, options.blanks.has_value()}, format, out);
-    return out.finish() ? 0 : 1;
+    const bool written = out.finish();
+    if (outcome.cutShort) {
+        tell("out of memory: the lists are cut short");
+        return kOutOfMemory;
+    }
+    return written ? kSuccess : kFailed;
+}
+
+} // namespace
+
+// Memory that runs out is reported, never an abort: a list cut short says so,
+// and should even the report not fit, the program says that instead.
+int main(int argc, char** argv) try {
+    using namespace lettriner;
+    const cli::ParseResult parsed = cli::parseOptions({argv + 1, argv + argc});
+    if (!parsed.error.empty()) {
+        tell(parsed.error);
+        std::fputs("Try 'lettriner-cli --help' for more information.\n", stderr);
+        return kUsageError;
+    }
+    const cli::Options& options = parsed.options;
+    if (options.help) {
+        std::fputs(cli::usageText().c_str(), stdout);
+        return kSuccess;
+    }
+    if (options.version) {
+        std::fputs("lettriner-cli " LETTRINER_VERSION "\n", stdout);
+        return kSuccess;
+    }
+    const cli::LoadedData data =
+        cli::loadDataFiles(options.directory, cli::installedDataFolder(programFolder()));
+    for (const std::string& message : data.messages)
+        tell(message);
+    switch (data.failure) {
+    case cli::LoadFailure::CannotEnter:
+    case cli::LoadFailure::NoWordList:
+        return kFailed;
+    case cli::LoadFailure::OutOfMemory:
+        return kOutOfMemory;
+    case cli::LoadFailure::None:
+        break;
+    }
+
+    const cli::Format format = options.json  ? cli::Format::Json
+                               : options.tsv ? cli::Format::Tsv
+                                             : cli::Format::Table;
+    if (!options.checkWords.empty()) {
+        std::vector<std::u16string> asked;
+        for (const std::string& word : options.checkWords)
+            asked.push_back(fromUtf8(word));
+        const std::vector<LookupResult> results = lookUpWords(data.words, asked);
+        const bool allFound = std::all_of(results.begin(), results.end(),
+                                          [](const LookupResult& result) { return result.found; });
+        cli::FileSink out(stdout);
+        cli::writeCheck(results, format, out);
+        return out.finish() && allFound ? kSuccess : kFailed;
+    }
+    return searchAndWrite(options, data.words, format);
 } catch (const std::bad_alloc&) {
     std::fputs("lettriner-cli: out of memory\n", stderr);
-    return 1;
+    return kOutOfMemory;
 }

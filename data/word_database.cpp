@@ -164,7 +164,7 @@ WordDatabase::WordDatabase(std::u16string_view text) {
     try {
         auto [bytes, page] = encoded(text.substr(0, kLargestWordList));
         auto storage = std::make_shared<Storage>();
-        storage->contents = FileContents(std::move(bytes));
+        storage->contents = FileContents(bytes);
         storage->codePage = page;
         storage->starts = startsOfEntries(storage->contents.bytes(), storage->entries);
         adopt(std::move(storage));
@@ -194,8 +194,8 @@ const CodePage& WordDatabase::codePage() const {
 }
 
 WordDatabase DatenbankEinlesen(const std::filesystem::path& Pfad,
-                               const std::function<void()>& yield) {
-    FileContents contents = readFileContents(Pfad, kLargestWordList);
+                               const std::function<void()>& yield, WhenAbsent absent) {
+    FileContents contents = readFileContents(Pfad, kLargestWordList, absent);
     if (yield)
         yield();
     return WordDatabase(std::move(contents));

@@ -2,8 +2,8 @@
 #pragma once
 // The word list: the lines of DB1.txt, read once at start-up and never
 // changed. Entries keep their case and spaces; the search upper-cases them.
-// This is the one owner of the list's memory: the file's bytes as mapped
-// (or read), and where each entry begins. An entry is decoded to text only
+// This is the one owner of the list's memory: the file's bytes as read, and
+// where each entry begins. An entry is decoded to text only
 // when someone asks for it.
 
 #include "data/file_contents.h"
@@ -74,8 +74,10 @@ inline constexpr std::uintmax_t kLargestWordList = std::uintmax_t{256} << 20;
 // current folder). `yield` runs once between reading and cutting, so the
 // window can paint its loading cover. An absent or unreadable file, or one
 // memory cannot hold, gives an empty list (and, being absent, is left behind
-// empty). A larger file than kLargestWordList is read up to that limit.
+// empty unless `absent` says otherwise). A larger file than kLargestWordList
+// is read up to that limit.
 [[nodiscard]] WordDatabase DatenbankEinlesen(const std::filesystem::path& Pfad,
-                                             const std::function<void()>& yield = {});
+                                             const std::function<void()>& yield = {},
+                                             WhenAbsent absent = WhenAbsent::CreateEmpty);
 
 } // namespace lettriner

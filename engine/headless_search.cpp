@@ -16,6 +16,7 @@ HeadlessOutcome searchWithoutWindow(const PreparedWords& words, const HeadlessFi
     SearchRun run(words);
     run.run(fields.texts, connections, tiles);
     outcome.bonusShown = run.bonusFound();
+    outcome.cutShort = run.listsCutShort();
     outcome.found = run.foundCount();
     outcome.minimumText = minimum.text();
     return outcome;

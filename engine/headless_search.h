@@ -24,6 +24,7 @@ struct HeadlessOutcome {
     MemoryResultList mainList;
     MemoryResultList bonusList;
     bool bonusShown = false; // the bonus list was filled
+    bool cutShort = false;   // memory ran out: a list lacks words it should hold
     std::uint64_t found = 0;
     std::u16string minimumText; // the minimum-value field after the run
 };

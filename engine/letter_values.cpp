@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/letter_values.h"
 
-#include "data/file_helpers.h"
 #include "data/numeric_value.h"
 #include "data/text_case.h"
 #include "data/text_codec.h"
@@ -25,10 +24,13 @@ LetterValueTable letterValuesFromTexts(std::u16string_view letters, std::u16stri
     return table;
 }
 
-LetterValueTable BewertungsFeldLaden(const std::filesystem::path& folder) {
+LetterValueTable BewertungsFeldLaden(const std::filesystem::path& folder, WhenAbsent absent) {
     try {
-        const std::u16string letters = DateiLesen(folder / "Bewertung1.txt");
-        const std::u16string values = DateiLesen(folder / "Bewertung2.txt");
+        const auto read = [&](const char* name) {
+            return decodeWindows1252(readFileContents(folder / name, UINTMAX_MAX, absent).bytes());
+        };
+        const std::u16string letters = read("Bewertung1.txt");
+        const std::u16string values = read("Bewertung2.txt");
         return letterValuesFromTexts(letters, values);
     } catch (const std::bad_alloc&) {
         return {}; // the lines of huge files do not fit: as if they could not be read

@@ -3,6 +3,8 @@
 // Letter values: Bewertung1.txt lists the letters, Bewertung2.txt their
 // values line for line; a word is worth the sum of its letters.
 
+#include "data/file_contents.h"
+
 #include <array>
 #include <cstdint>
 #include <filesystem>
@@ -28,9 +30,11 @@ private:
                                                      std::u16string_view values);
 
 // Reads Bewertung1.txt and Bewertung2.txt from `folder` (start-up passes the
-// current folder). Missing files count as empty and are left behind empty;
-// files too large for the memory left give an empty table.
-[[nodiscard]] LetterValueTable BewertungsFeldLaden(const std::filesystem::path& folder = {});
+// current folder). Missing files count as empty and are left behind empty
+// (the command line leaves them absent); files too large for the memory left
+// give an empty table.
+[[nodiscard]] LetterValueTable BewertungsFeldLaden(const std::filesystem::path& folder = {},
+                                                   WhenAbsent absent = WhenAbsent::CreateEmpty);
 
 // The word's value: the sum of its letters' values (any case), rounded half to
 // even; 0 when the rounded sum lies outside -32768..32767.

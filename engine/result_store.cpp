@@ -34,19 +34,20 @@ void SchlechteHälfteLöschen(ResultStore& Feld, NumberField& minimumField) {
     minimumField.setText(decimalText(entries.back().value));
 }
 
-void finishStore(ResultStore& Feld) {
+bool finishStore(ResultStore& Feld) {
     std::vector<StoreEntry>& entries = Feld.entries();
     try {
         FeldNachWertSortieren(entries);
     } catch (const std::bad_alloc&) {
         entries = std::vector<StoreEntry>(); // unsorted, its best words would not come first
-        return;
+        return false;
     }
     const auto start = std::find_if(entries.begin(), entries.end(), [](const StoreEntry& entry) {
         return entry.word == kStartingEntry;
     });
     if (start != entries.end())
         entries.erase(start);
+    return true;
 }
 
 std::vector<std::u16string> storeWords(const ResultStore& Feld, const PreparedWords& words) {
@@ -116,7 +117,7 @@ void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::int
     fillColumn(list, column, array);
 }
 
-void publishStore(const ResultStore& Feld, const PreparedWords& words, std::u16string_view rack,
+bool publishStore(const ResultStore& Feld, const PreparedWords& words, std::u16string_view rack,
                   ResultList& list) {
     try {
         const std::vector<std::u16string> texts = storeWords(Feld, words);
@@ -126,12 +127,14 @@ void publishStore(const ResultStore& Feld, const PreparedWords& words, std::u16s
         ListeSpalteFüllen(list, kNeededColumn, ZusBuchstabenFeld(texts, rack));
         ListeSpalteFüllen(list, kLeftOverColumn, ÜbrigeBuchstFeld(texts, rack));
         list.publishFinished();
+        return true;
     } catch (const std::bad_alloc&) {
         list.clear(); // half-filled rows would show words without their values
+        return false;
     }
 }
 
-void publishStore(const ResultStore& Feld, const PreparedWords& words, const TileTest& test,
+bool publishStore(const ResultStore& Feld, const PreparedWords& words, const TileTest& test,
                   ResultList& list) {
     try {
         std::vector<ResultRow> rows(Feld.entries().size());
@@ -151,8 +154,10 @@ void publishStore(const ResultStore& Feld, const PreparedWords& words, const Til
         }
         list.addRows(std::move(rows));
         list.publishFinished();
+        return true;
     } catch (const std::bad_alloc&) {
         list.clear(); // half-filled rows would show words without their values
+        return false;
     }
 }
 

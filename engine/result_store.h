@@ -32,6 +32,8 @@ public:
     [[nodiscard]] std::int64_t highestIndex() const {
         return static_cast<std::int64_t>(entries_.size()) - 1;
     }
+    // True once an append found no memory: the store lacks words it should hold.
+    [[nodiscard]] bool full() const { return full_; }
     [[nodiscard]] std::vector<StoreEntry>& entries() { return entries_; }
     [[nodiscard]] const std::vector<StoreEntry>& entries() const { return entries_; }
 
@@ -45,8 +47,8 @@ private:
 void SchlechteHälfteLöschen(ResultStore& Feld, NumberField& minimumField);
 
 // Sorts best first and removes the starting entry wherever it landed; empties
-// the store when memory for the sort runs out.
-void finishStore(ResultStore& Feld);
+// the store (and returns false) when memory for the sort runs out.
+bool finishStore(ResultStore& Feld);
 
 // The store's words (upper-cased, as tested), entry by entry.
 [[nodiscard]] std::vector<std::u16string> storeWords(const ResultStore& Feld,
@@ -64,14 +66,14 @@ void ListeSpalteFüllen(ResultList& list, int column, const std::vector<std::int
 
 // Fills the five columns in order: word, length, value, needed letters and
 // left-over letters, the last two against `rack` (upper-cased, spaces kept).
-// When memory runs out on the way, the list is left empty.
-void publishStore(const ResultStore& Feld, const PreparedWords& words, std::u16string_view rack,
+// When memory runs out on the way, the list is left empty and false comes back.
+bool publishStore(const ResultStore& Feld, const PreparedWords& words, std::u16string_view rack,
                   ResultList& list);
 
 // The rows of a search with blanks or a pattern, added whole: the values as
 // stored (after the blanks), the letter columns as `test` gives them, and a
 // sixth column with the letters the blanks stand for.
-void publishStore(const ResultStore& Feld, const PreparedWords& words, const TileTest& test,
+bool publishStore(const ResultStore& Feld, const PreparedWords& words, const TileTest& test,
                   ResultList& list);
 
 } // namespace lettriner

@@ -135,20 +135,22 @@ void SearchRun::run(const SearchTexts& texts, SearchConnections& connections,
     }
 
     window.loopEnded();
-    finishStore(main);
-    finishStore(bonus_);
+    bool complete = !main.full() && !bonus_.full();
+    complete = finishStore(main) && complete;
+    complete = finishStore(bonus_) && complete;
     connections.mainList.clear();
     connections.bonusList.clear();
-    if (tiles.none()) {
-        const std::u16string publishRack = window.currentRack(rack);
-        publishStore(main, words_, publishRack, connections.mainList);
-        if (bonusFound_)
-            publishStore(bonus_, words_, publishRack, connections.bonusList);
-    } else {
-        publishStore(main, words_, test, connections.mainList);
-        if (bonusFound_)
-            publishStore(bonus_, words_, test, connections.bonusList);
-    }
+    // Read once: an edit made during the run shows in both lists' letter columns.
+    const std::u16string publishRack = tiles.none() ? window.currentRack(rack) : u"";
+    const auto publish = [&](const ResultStore& store, ResultList& list) {
+        if (tiles.none())
+            return publishStore(store, words_, publishRack, list);
+        return publishStore(store, words_, test, list);
+    };
+    complete = publish(main, connections.mainList) && complete;
+    if (bonusFound_)
+        complete = publish(bonus_, connections.bonusList) && complete;
+    cutShort_ = !complete;
     if (bonusFound_)
         window.showBonusList();
     window.drawProgress(100);

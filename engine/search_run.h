@@ -113,6 +113,8 @@ public:
     [[nodiscard]] bool isRunning() const { return running_; }
     [[nodiscard]] std::uint64_t foundCount() const { return found_; }
     [[nodiscard]] bool bonusFound() const { return bonusFound_; }
+    // The last run's lists lack words they should hold: memory ran out.
+    [[nodiscard]] bool listsCutShort() const { return cutShort_; }
 
 private:
     // Tests the words [from, to) and stores the accepted ones.
@@ -131,6 +133,7 @@ private:
     bool stopRequested_ = false;
     bool progressDue_ = true; // the first run shows progress after its first word
     bool bonusFound_ = false;
+    bool cutShort_ = false;
     bool running_ = false;
 };
 

@@ -4,6 +4,7 @@
 
 #include "cli/cli_options.h"
 #include "cli/data_folder.h"
+#include "cli/message_text.h"
 #include "support/temp_folder.h"
 
 #include <cstdlib>
@@ -48,6 +49,12 @@ TEST(ParseOptions, ReadsEveryFormOfEveryOptionAndRejectsTheRest) {
         {{"--max-length=99999999999"},
          "option --max-length takes a whole number from 0, not '99999999999'"},
         {{"--check", "--tsv"}, "option --check needs a word"},
+        {{"--check", "tee", ""}, "option --check takes words, not an empty text"},
+        // What is echoed cannot steer the terminal, and a character is shown whole.
+        {{"--blanks", "\x1b]0;x\a"}, "option --blanks takes 0, 1 or 2, not '\\x1b]0;x\\x07'"},
+        {{"--starts=a\xF0\x9F\x98\x80"},
+         "option --starts takes letters only, not '\xF0\x9F\x98\x80'"},
+        {{"--\xFF\r"}, "unknown option --\\xff\\x0d"},
         {{"--json", "--tsv"}, "options --tsv and --json exclude each other"}};
     for (const auto& [arguments, error] : bad)
         EXPECT_EQ(parseOptions(arguments).error, error);
@@ -68,6 +75,17 @@ TEST(ParseOptions, TileOptionsAreUpperCasedAndCheckTakesTheFollowingWords) {
                                                              "e"}));
     EXPECT_TRUE(o.json && o.usesTiles());
     EXPECT_FALSE(parseOptions({"--rack=x", "--tsv"}).options.usesTiles());
+}
+
+TEST(MessageText, ShowsWhatCannotBePrintedByItsCode) {
+    const std::pair<std::u16string, std::string> cases[] = {
+        {u"ok\u00e4", "ok\xC3\xA4"},
+        {std::u16string(1, 0xD83D), "U+D83D"},
+        {u"\x1b[2J\u0085", "\\x1b[2JU+0085"},
+        {u"\U0001F600", "\xF0\x9F\x98\x80"},
+    };
+    for (const auto& [text, shown] : cases)
+        EXPECT_EQ(messageText(text), shown);
 }
 
 TEST(DataFolder, InstalledProgramsFindTheirWordList) {
@@ -107,7 +125,9 @@ protected:
         folder.write("data/DB1.txt", kWords);
     }
 
-    CliRun runCli(const std::vector<std::string>& arguments) const {
+    // The program at `program`, started in `where` (relative to the fresh folder).
+    CliRun runCli(const std::vector<std::string>& arguments, const std::string& where = "data",
+                  const std::string& program = LETTRINER_CLI) const {
         const auto quoted = [](const std::string& text) {
             std::string result = "'";
             for (const char c : text)
@@ -115,10 +135,11 @@ protected:
             return result + "'";
         };
         std::string command = "cd ";
-        command += quoted((folder / "data").string()) + " && " + quoted(LETTRINER_CLI);
+        command += quoted((folder / where).string()) + " && " + quoted(program);
         for (const std::string& argument : arguments)
             command.append(" ").append(quoted(argument));
-        command += " >../out.txt 2>../err.txt";
+        command += " >" + quoted((folder / "out.txt").string());
+        command += " 2>" + quoted((folder / "err.txt").string());
         const int status = std::system(command.c_str());
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, folder.read("out.txt"),
                 folder.read("err.txt")};
@@ -233,6 +254,58 @@ TEST_F(Cli, ExitCodesAndMessages) {
     // Without a word list nothing is read, so no empty data file is left behind.
     EXPECT_FALSE(std::filesystem::exists(folder / "DB1.txt"));
     EXPECT_FALSE(std::filesystem::exists(folder / "Bewertung1.txt"));
+}
+
+// Files left empty by the window, or missing: named on standard error, never
+// created, and an empty list in the current folder does not hide the
+// installed one (a copy of the program in an installed layout).
+TEST_F(Cli, EmptyOrMissingDataFilesAreNamedAndNeverCreated) {
+    namespace fs = std::filesystem;
+    const fs::path installed = folder / "prefix/share/lettriner";
+    fs::create_directories(installed);
+    fs::create_directories(folder / "prefix/lib/lettriner");
+    fs::copy_file(LETTRINER_CLI, folder / "prefix/lib/lettriner/lettriner-cli");
+    for (const char* name : {"DB1.txt", "Bewertung1.txt", "Bewertung2.txt"})
+        fs::copy_file(folder / "data" / name, installed / name);
+    fs::create_directory(folder / "window");
+    folder.write("window/DB1.txt", "");
+    const std::string installedCli = (folder / "prefix/lib/lettriner/lettriner-cli").string();
+    const std::tuple<const char*, std::vector<std::string>, std::string, int, std::string,
+                     std::string>
+        cases[] = {
+            {"empty list here: the installed one is used",
+             {"--check", "tee"},
+             "window",
+             0,
+             "holds no words; using the list in ",
+             "TEE   ja"},
+            {"-C: the folder as given, with the warning",
+             {"-C", ".", "--check", "tee"},
+             "window",
+             1,
+             "DB1.txt in ",
+             "TEE   nein"},
+            {"empty list, nothing installed: searched, with the warning",
+             {"--rack=tee"},
+             "window",
+             0,
+             "holds no words",
+             "0 W"},
+        };
+    for (const auto& [name, arguments, where, exitCode, errPart, outPart] : cases) {
+        SCOPED_TRACE(name);
+        const bool useInstalled = std::string_view(name).starts_with("empty list here");
+        const CliRun run = runCli(arguments, where, useInstalled ? installedCli : LETTRINER_CLI);
+        EXPECT_EQ(run.exitCode, exitCode) << run.err;
+        EXPECT_NE(run.err.find(errPart), std::string::npos) << run.err;
+        EXPECT_NE(run.out.find(outPart), std::string::npos) << run.out;
+        if (!useInstalled) { // the letter files are missing too
+            EXPECT_NE(run.err.find("Bewertung1.txt not found in "), std::string::npos) << run.err;
+        }
+    }
+    EXPECT_EQ(folder.read("window/DB1.txt"), "");
+    EXPECT_FALSE(fs::exists(folder / "window/Bewertung1.txt"));
+    EXPECT_FALSE(fs::exists(folder / "window/Bewertung2.txt"));
 }
 
 } // namespace

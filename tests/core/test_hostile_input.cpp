@@ -133,41 +133,61 @@ TEST_F(HostileInput, EnormousFieldTextsAndEveryCharacterInEveryField) {
     EXPECT_EQ(search({u"AB", all, u"", all}, all).found, 0u);
 }
 
-// Runs lettriner-cli in the current folder, its address space capped at what
-// this test holds now plus `room` (a fresh program holds less, sanitizer or
-// not), its output to out.txt. Returns the exit status, or -1 for a signal.
-int runCliWithin(std::uint64_t room, const std::vector<const char*>& arguments) {
+// Starts lettriner-cli in the current folder, its address space capped at
+// what this test holds now plus `room` (a fresh program holds less, sanitizer
+// or not; no cap when 0), its output to out.txt and err.txt.
+pid_t startCli(std::uint64_t room, const std::vector<const char*>& arguments) {
     const int out = ::open("out.txt", O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    const int err = ::open("err.txt", O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
     const pid_t child = ::fork();
     if (child == 0) {
         std::vector<char*> argv = {const_cast<char*>("lettriner-cli")};
         for (const char* argument : arguments)
             argv.push_back(const_cast<char*>(argument));
         argv.push_back(nullptr);
-        if (out >= 0 && ::dup2(out, STDOUT_FILENO) >= 0 && testing::capAddressSpace(room))
+        if (out >= 0 && err >= 0 && ::dup2(out, STDOUT_FILENO) >= 0 &&
+            ::dup2(err, STDERR_FILENO) >= 0 && (room == 0 || testing::capAddressSpace(room)))
             ::execv(LETTRINER_CLI, argv.data());
         ::_exit(127);
     }
     ::close(out);
+    ::close(err);
+    return child;
+}
+
+// The exit status, or -1 for a signal.
+int exitStatusOf(pid_t child) {
     int status = 0;
     ::waitpid(child, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-TEST_F(HostileInput, MemoryShortAfterReadingGivesAnEmptyListThatSearches) {
+int runCliWithin(std::uint64_t room, const std::vector<const char*>& arguments) {
+    return exitStatusOf(startCli(room, arguments));
+}
+
+TEST_F(HostileInput, MemoryShortAfterReadingIsReportedNotSearched) {
     testing::writeCappedList("DB1.txt");
     for (const testing::MemoryRoom& row : testing::kMemoryRooms) {
-        EXPECT_EQ(runCliWithin(row.room, {"--tsv", "--rack=AB", "--min=0"}), 0) << row.name;
+        SCOPED_TRACE(row.name);
+        if (!row.listLoads) {
+            EXPECT_EQ(runCliWithin(row.room, {"--tsv", "--rack=AB", "--min=0"}), 3);
+            EXPECT_NE(folder.read("err.txt").find("out of memory"), std::string::npos);
+            EXPECT_EQ(folder.read("out.txt"), "");
+            continue;
+        }
+        EXPECT_EQ(runCliWithin(row.room, {"--tsv", "--rack=AB", "--min=0"}), 0);
         std::string found = "found\t";
-        found += std::to_string(row.listLoads ? testing::kCappedListLines : 0);
+        found += std::to_string(testing::kCappedListLines);
         found += '\n';
-        EXPECT_NE(folder.read("out.txt").find(found), std::string::npos) << row.name;
+        EXPECT_NE(folder.read("out.txt").find(found), std::string::npos);
     }
 }
 
 // Every line a bonus word: the bonus store outgrows the room left after the
-// list, and so does its sort. The search still counts every word.
-TEST_F(HostileInput, BonusListBeyondMemoryIsLeftEmpty) {
+// list, and so does its sort. The search still counts every word, and says
+// that its lists are cut short, in every format.
+TEST_F(HostileInput, BonusListBeyondMemoryIsReported) {
 #if defined(__SANITIZE_ADDRESS__)
     GTEST_SKIP() << "the sanitizer's operator new aborts where the C library's throws";
 #endif
@@ -175,12 +195,62 @@ TEST_F(HostileInput, BonusListBeyondMemoryIsLeftEmpty) {
     const std::uint64_t room = testing::kMemoryRooms.back().room;
     const std::string counted = "\nbonus\t0\nfound\t" + std::to_string(testing::kCappedListLines);
     const std::vector<const char*> window = {"--tsv", "--rack=A", "--min=0"};
-    std::vector<const char*> board = window;
-    board.push_back("--pattern=.");
-    for (const auto& arguments : {window, board}) {
-        EXPECT_EQ(runCliWithin(room, arguments), 0) << arguments.size();
+    std::vector<const char*> tiles = window;
+    tiles.push_back("--pattern=.");
+    for (const auto& arguments : {window, tiles}) {
+        EXPECT_EQ(runCliWithin(room, arguments), 3) << arguments.size();
         EXPECT_NE(folder.read("out.txt").find(counted), std::string::npos) << arguments.size();
+        EXPECT_NE(folder.read("err.txt").find("out of memory: the lists are cut short"),
+                  std::string::npos);
     }
+    EXPECT_EQ(runCliWithin(room, {"--json", "--rack=A", "--min=0"}), 3);
+    EXPECT_NE(
+        folder.read("out.txt").find("\"found\": " + std::to_string(testing::kCappedListLines)),
+        std::string::npos);
+}
+
+// The list changes on disk while the program runs: it goes on with what it
+// read. The file is truncated once the child has read all of it (its read
+// count in /proc shows that) or mapped it, while it still checks 90,000 words.
+TEST_F(HostileInput, WordListTruncatedWhileCheckingChangesNothing) {
+    std::string list;
+    std::vector<std::string> words;
+    for (int i = 0; i < 90'000; ++i) {
+        std::string word = "W";
+        for (int n = i; n > 0; n /= 26)
+            word += static_cast<char>('A' + n % 26);
+        list += word + "\r\n";
+        words.push_back(std::move(word));
+    }
+    folder.write("DB1.txt", list);
+    std::vector<const char*> arguments = {"--tsv", "--check"};
+    for (const std::string& word : words)
+        arguments.push_back(word.c_str());
+    const pid_t child = startCli(0, arguments);
+    const auto bytesRead = [child] {
+        std::ifstream io("/proc/" + std::to_string(child) + "/io");
+        std::string key;
+        std::uint64_t value = 0;
+        while (io >> key >> value) {
+            if (key == "rchar:")
+                return value;
+        }
+        return std::uint64_t{0};
+    };
+    const auto mapped = [child] {
+        std::ifstream maps("/proc/" + std::to_string(child) + "/maps");
+        std::string line;
+        while (std::getline(maps, line)) {
+            if (line.ends_with("/DB1.txt"))
+                return true;
+        }
+        return false;
+    };
+    for (int wait = 0; wait < 2000 && bytesRead() < list.size() && !mapped(); ++wait)
+        ::usleep(1000);
+    ASSERT_EQ(::truncate("DB1.txt", 0), 0);
+    EXPECT_EQ(exitStatusOf(child), 0) << folder.read("err.txt");
+    EXPECT_NE(folder.read("out.txt").find("check\t90000\n"), std::string::npos);
 }
 
 } // namespace

@@ -416,6 +416,15 @@ private slots:
         QCOMPARE(w.field("txtMindestWert")->text(), minimum);
     }
 
+    // A word list emptied or rewritten on disk after start-up: the window
+    // searches what it read, and is not killed by the pages it mapped vanishing.
+    void wordListChangedOnDisk() {
+        LoadedWindow w;
+        w.folder.write("DB1.txt", "");
+        w.search("RAHMEN");
+        QCOMPARE(cells(w.form.mainList()).join(' '), "RAHMEN MEHR RAHM NAME AMEN HARN");
+    }
+
     void screenReaderNames_data() {
         QTest::addColumn<QString>("control");
         QTest::addColumn<QString>("name");
