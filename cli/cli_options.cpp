@@ -2,7 +2,6 @@
 #include "cli/cli_options.h"
 
 #include "cli/message_text.h"
-
 #include "data/text_case.h"
 #include "data/utf8.h"
 #include "engine/prepared_words.h"
@@ -174,8 +173,9 @@ ParseResult parseOptions(const std::vector<std::string>& arguments) {
             break;
         }
         if (!matched) {
-            result.error = argument.starts_with("-") ? "unknown option " + messageText(argument)
-                                                     : "unexpected argument " + messageText(argument);
+            result.error = argument.starts_with("-")
+                               ? "unknown option " + messageText(argument)
+                               : "unexpected argument " + messageText(argument);
             return result;
         }
     }

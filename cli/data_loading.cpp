@@ -109,9 +109,8 @@ LoadedData loadDataFiles(const std::optional<std::string>& directory,
     data.words = PreparedWords(database, BewertungsFeldLaden({}, WhenAbsent::LeaveAbsent));
     if (read && data.words.size() == 0) {
         data.failure = LoadFailure::OutOfMemory;
-        data.messages.insert(data.messages.begin(),
-                             "out of memory: the words of DB1.txt in " + folderName(".") +
-                                 " do not fit");
+        data.messages.insert(data.messages.begin(), "out of memory: the words of DB1.txt in " +
+                                                        folderName(".") + " do not fit");
     }
     return data;
 }

@@ -61,8 +61,7 @@ int openRegular(const fs::path& path, struct stat& facts) {
 
 } // namespace
 
-FileContents::FileContents(std::string_view bytes)
-    : buffer_(bytes.size()), length_(bytes.size()) {
+FileContents::FileContents(std::string_view bytes) : buffer_(bytes.size()), length_(bytes.size()) {
     std::copy(bytes.begin(), bytes.end(), buffer_.data());
 }
 
