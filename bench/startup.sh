@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Start-up as a user meets it: whole fresh processes, so that loading the
-# program, mapping the word list and the kernel's page faults all count
+# program, reading the word list and the kernel's page faults all count
 # (the Google Benchmark figures reuse memory already mapped and miss that).
 #
 #   bench/startup.sh [BUILD_DIR]      (default build/release; needs the

@@ -86,9 +86,8 @@ FileContents readFileContents(const fs::path& path, std::uintmax_t largest, When
             static_cast<std::size_t>(std::min(static_cast<std::uintmax_t>(facts.st_size), largest));
         if (size == 0)
             return {};
-        // Memory whose pages are present from the start (see LargeArray), so
-        // that the read is one copy, not one page fault at a time.
-        LargeArray<char> buffer(size);
+        // Huge pages where the system has them, brought in by the read itself.
+        LargeArray<char> buffer(size, Pages::OnFirstWrite);
         const std::size_t got = readUpTo(file.get(), buffer.data(), size);
         return FileContents(std::move(buffer), got);
     } catch (const std::bad_alloc&) {

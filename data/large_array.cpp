@@ -31,7 +31,7 @@ void* alignedMapping(std::size_t bytes) {
 
 } // namespace
 
-void* allocate(std::size_t bytes, std::size_t& mapped) {
+void* allocate(std::size_t bytes, std::size_t& mapped, bool touchFirst) {
     mapped = 0;
     if (bytes < kSmallest) {
         void* data = std::malloc(bytes == 0 ? 1 : bytes);
@@ -47,7 +47,8 @@ void* allocate(std::size_t bytes, std::size_t& mapped) {
             ::madvise(data, rounded, MADV_HUGEPAGE);
 #endif
 #ifdef MADV_POPULATE_WRITE
-            ::madvise(data, rounded, MADV_POPULATE_WRITE);
+            if (!touchFirst)
+                ::madvise(data, rounded, MADV_POPULATE_WRITE);
 #endif
             mapped = rounded;
             return data;
@@ -55,7 +56,7 @@ void* allocate(std::size_t bytes, std::size_t& mapped) {
         throw std::bad_alloc();
     }
     void* data = ::mmap(nullptr, bytes, PROT_READ | PROT_WRITE,
-                        MAP_PRIVATE | MAP_ANONYMOUS | MAP_POPULATE, -1, 0);
+                        MAP_PRIVATE | MAP_ANONYMOUS | (touchFirst ? 0 : MAP_POPULATE), -1, 0);
     if (data == MAP_FAILED)
         throw std::bad_alloc();
     mapped = bytes;

@@ -14,21 +14,29 @@
 namespace lettriner {
 
 namespace large_array_detail {
-// Memory for `bytes` bytes (at least one), its pages present; throws
-// std::bad_alloc. `mapped` receives what release() needs.
-[[nodiscard]] void* allocate(std::size_t bytes, std::size_t& mapped);
+// Memory for `bytes` bytes (at least one), its pages present unless
+// `touchFirst` (then the first write brings each in); throws std::bad_alloc.
+// `mapped` receives what release() needs.
+[[nodiscard]] void* allocate(std::size_t bytes, std::size_t& mapped, bool touchFirst = false);
 void release(void* data, std::size_t mapped) noexcept;
 } // namespace large_array_detail
+
+// How the pages of a large array come in: all at once (for arrays filled in
+// a loop, where a fault per page would cost more), or on the first write (for
+// a buffer that a read() fills: the kernel brings the pages in as it copies,
+// and bringing them in before would only zero them first).
+enum class Pages { Present, OnFirstWrite };
 
 template <class T> class LargeArray {
     static_assert(std::is_trivially_copyable_v<T> && std::is_trivially_destructible_v<T>);
 
 public:
     LargeArray() = default;
-    explicit LargeArray(std::size_t size) : size_(size) {
+    explicit LargeArray(std::size_t size, Pages pages = Pages::Present) : size_(size) {
         if (size > SIZE_MAX / sizeof(T))
             throw std::bad_alloc();
-        data_ = static_cast<T*>(large_array_detail::allocate(size * sizeof(T), mapped_));
+        data_ = static_cast<T*>(large_array_detail::allocate(size * sizeof(T), mapped_,
+                                                             pages == Pages::OnFirstWrite));
     }
     LargeArray(LargeArray&& other) noexcept
         : data_(std::exchange(other.data_, nullptr)), size_(std::exchange(other.size_, 0)),
