@@ -37,26 +37,27 @@ FormSet gameForms(const std::vector<std::u16string>& words) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    // The word-game list last: as gzip it holds the separator byte 0x1F itself.
     const auto files = fuzz::bytePieces(data, size, 6);
     constexpr std::size_t kLimit = std::size_t{1} << 16;
-    const Gunzipped unpacked = gunzip(files[0], kLimit);
-    if (unpacked.error.empty() && !files[0].starts_with("\x1f\x8b"))
+    const Gunzipped unpacked = gunzip(files[5], kLimit);
+    if (unpacked.error.empty() && !files[5].starts_with("\x1f\x8b"))
         fuzz::fail("gunzip took a text that is no gzip");
     if (!unpacked.error.empty() && !unpacked.bytes.empty())
         fuzz::fail("gunzip failed and still gave bytes");
     if (unpacked.bytes.size() > kLimit)
         fuzz::fail("gunzip gave more than its limit");
     const std::vector<std::u16string> wordGame =
-        wordGameSpellings(unpacked.error.empty() ? std::string_view(unpacked.bytes) : files[0]);
-    const std::vector<std::u16string> general = sourceEntries(files[1]);
+        wordGameSpellings(unpacked.error.empty() ? std::string_view(unpacked.bytes) : files[5]);
+    const std::vector<std::u16string> general = sourceEntries(files[0]);
     // The rules as lettriner-make-data reads them from their files.
     WordListRules rules;
-    for (const std::u16string& word : ruleFileWords(files[2]))
+    for (const std::u16string& word : ruleFileWords(files[1]))
         rules.exclusions.insert(word);
-    for (const std::u16string& word : ruleFileWords(files[3]))
+    for (const std::u16string& word : ruleFileWords(files[2]))
         rules.vowelless.insert(toLower(word));
-    rules.supplement = ruleFileWords(files[4]);
-    rules.twoLetter = ruleFileWords(files[5]);
+    rules.supplement = ruleFileWords(files[3]);
+    rules.twoLetter = ruleFileWords(files[4]);
     const GameWordList list = gameWords(wordGame, general, rules);
 
     const std::size_t judged[] = {wordGame.size(), general.size(), rules.supplement.size(),
