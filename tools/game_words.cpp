@@ -19,6 +19,8 @@ bool isSmall(char16_t c) {
 }
 
 char16_t withoutAccent(char16_t c) {
+    if (c < 0xC0) // nothing below À has an accent
+        return c;
     // French, Spanish, Scandinavian and transcribed Japanese or Sanskrit
     // (Café, Señor, Ångström, Shōgun); umlauts are letters of their own.
     constexpr std::u16string_view accented = u"àâáåāçčéèêëēîïíīñôóōõšûùúūÿÀÂÁÅÇČÉÈÊËÎÏÍÑÔÓÕŠÛÙÚ";
@@ -97,6 +99,7 @@ GameWordList gameWords(const std::vector<std::u16string>& wordGame,
                        const std::vector<std::u16string>& general, const WordListRules& rules) {
     GameWordList list;
     std::unordered_set<std::u16string> seen;
+    seen.reserve(wordGame.size() + general.size() / 8);
     // Compared as the game writes them (ß as ss): a word kept for being on the
     // list is still on it once written, so the list filtered again keeps it.
     std::unordered_set<std::u16string> vowelless;
@@ -121,15 +124,16 @@ GameWordList gameWords(const std::vector<std::u16string>& wordGame,
         if (source != Source::TwoLetter && !hasVowel(word) && !vowelless.contains(toLower(written)))
             return Outcome::NoVowel;
         std::u16string upper = toUpper(written);
-        if (seen.contains(upper))
-            return Outcome::Duplicate;
         if (source == Source::General) {
+            if (seen.contains(upper))
+                return Outcome::Duplicate;
             if (std::any_of(word.begin(), word.end(), isCapital))
                 return Outcome::CapitalisedGeneral;
             if (written.size() < kGeneralOnlyMinimumLength)
                 return Outcome::ShortGeneral;
         }
-        seen.insert(std::move(upper));
+        if (!seen.insert(std::move(upper)).second)
+            return Outcome::Duplicate;
         list.words.push_back(std::move(written));
         return Outcome::Kept;
     };
