@@ -86,7 +86,7 @@ echo "upgrade from 1.0.1: the edited letter value moved to /etc/lettriner/Bewert
 words="$(words_in "$data/DB1.txt")"
 echo "installed word list: $words words"
 [ "$words" -ge 650000 ] || fail "word list has only $words words"
-for word in QUIZZE YAK XENON EMOJI HASHTAG ZAHNBUERSTE ST; do
+for word in QUIZZE YAK XENON EMOJI HASHTAG Zahnbürste ST; do
     root runuser -u nobody -- sh -c "cd /tmp && lettriner-cli --check $word" >/dev/null ||
         fail "$word is not in the installed list"
 done
@@ -133,9 +133,11 @@ echo "reinstalling and the tanglet-data and wngerman triggers regenerated the wo
 victim="$(mktemp)"
 echo "not a word list" >"$victim"
 root ln -s "$victim" "$data/DB1.txt.new"
-if apt install -y --reinstall wngerman 2>/dev/null; then
+if output="$(root env DEBIAN_FRONTEND=noninteractive apt-get install -y --reinstall wngerman 2>&1)"; then
     fail "the trigger wrote through a planted DB1.txt.new link"
 fi
+grep -q "refusing to write $data/DB1.txt.new" <<<"$output" || fail "no clear message: $output"
+grep "lettriner-make-data:" <<<"$output"
 [ "$(cat "$victim")" = "not a word list" ] || fail "the planted link's target was written"
 [ -f "$data/DB1.txt" ] && [ ! -L "$data/DB1.txt" ] || fail "DB1.txt is no longer a file"
 root rm "$data/DB1.txt.new" "$victim"
@@ -165,9 +167,11 @@ if output="$(root env DEBIAN_FRONTEND=noninteractive dpkg -i "$package" 2>&1)"; 
     fail "installing with $data a link succeeded"
 fi
 grep -q "$data is a symbolic link" <<<"$output" || fail "no clear message: $output"
+grep "lettriner:" <<<"$output"
 output="$(root env DEBIAN_FRONTEND=noninteractive dpkg --purge lettriner 2>&1)" ||
     fail "purging with $data a link failed: $output"
 grep -q "nothing was removed through it" <<<"$output" || fail "purging did not warn: $output"
+grep "lettriner:" <<<"$output"
 [ -f "$foreign/DB1.txt" ] && [ -f "$foreign/Bewertung1.txt" ] && [ -f "$foreign/DB1.txt.new" ] ||
     fail "purging deleted files through the link"
 root rm "$data"
