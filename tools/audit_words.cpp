@@ -29,6 +29,7 @@
 #include <random>
 #include <string>
 #include <unordered_set>
+#include <vector>
 
 namespace {
 
