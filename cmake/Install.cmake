@@ -9,11 +9,15 @@
 #   share/lettriner/                   Bewertung1.txt, Bewertung2.txt, and wordlist/,
 #                                      the rules DB1.txt is generated with
 #   share/lettriner/DB1.txt            the word list, in installs without a package
+#   /etc/lettriner/Bewertung*.txt      the package only: the letter values as conffiles,
+#                                      which a player may edit (component "conffiles")
 #   share/applications, share/icons, share/metainfo, share/man, share/doc
 #
 # The Debian package does not carry DB1.txt (component "wordlist" stays out of
-# it): it depends on wngerman and generates the list into /var/lib/lettriner
-# when installed and whenever wngerman changes, with the tool the build uses.
+# it): it depends on wngerman and tanglet-data and generates the list into
+# /var/lib/lettriner when installed and whenever either changes, with the tool
+# the build uses. Its postinst links the conffiles into the same folder; the
+# copies in share/lettriner stay as the shipped values it compares against.
 
 include(GNUInstallDirs)
 
@@ -27,6 +31,10 @@ install(FILES "${LETTRINER_RUN_DIR}/Sprachen.txt" "${LETTRINER_RUN_DIR}/Settings
         DESTINATION "${LETTRINER_PROGRAM_DIR}" COMPONENT program)
 install(FILES "${LETTRINER_RUN_DIR}/Bewertung1.txt" "${LETTRINER_RUN_DIR}/Bewertung2.txt"
         DESTINATION "${LETTRINER_DATA_DIR}" COMPONENT program)
+# Outside the prefix, so only the package installs them (EXCLUDE_FROM_ALL keeps
+# a plain "cmake --install --prefix ~/.local" away from /etc).
+install(FILES "${LETTRINER_RUN_DIR}/Bewertung1.txt" "${LETTRINER_RUN_DIR}/Bewertung2.txt"
+        DESTINATION "/etc/lettriner" COMPONENT conffiles EXCLUDE_FROM_ALL)
 install(DIRECTORY "${LETTRINER_WORD_RULES}/" DESTINATION "${LETTRINER_DATA_DIR}/wordlist"
         COMPONENT program FILES_MATCHING PATTERN "*.txt" PATTERN "*.COPYING" PATTERN "*.md")
 install(FILES "${LETTRINER_RUN_DIR}/DB1.txt"
@@ -85,21 +93,22 @@ set(CPACK_PACKAGE_CONTACT "Lettriner <lettriner@example.org>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
     "Type the tiles on your rack and press Enter: Lettriner searches a German word
-list of about 354,000 words for every word you can lay, values each word by
+list of about 690,000 words for every word you can lay, values each word by
 its letters' points and shows the best words first, with a second list of the
 words that use every tile and so earn the bonus. Letters every word must
 contain, letters no word may contain, letters borrowed from the board and a
 minimum value narrow the search.
 .
 The command-line search lettriner-cli also knows blank tiles, board patterns
-and a word check. The word list is generated from wngerman at installation.")
+and a word check. The word list is generated at installation from the German
+word lists of wngerman and tanglet-data.")
 set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
 set(CPACK_PACKAGING_INSTALL_PREFIX "/usr")
 set(CPACK_GENERATOR "DEB")
 # One package of the components below; the word list is generated, not shipped.
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
-set(CPACK_COMPONENTS_ALL program)
+set(CPACK_COMPONENTS_ALL program conffiles)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION "utils")
 set(CPACK_DEBIAN_PACKAGE_PRIORITY "optional")
@@ -108,8 +117,9 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_STRIP_FILES ON)
 # The Qt platform plugins and Qt's German texts are loaded at run time, so
 # shlibdeps cannot see them.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "wngerman, qt6-qpa-plugins, qt6-translations-l10n")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS
+    "wngerman, tanglet-data, qt6-qpa-plugins, qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA
-    "${PROJECT_SOURCE_DIR}/packaging/postinst;${PROJECT_SOURCE_DIR}/packaging/postrm;${PROJECT_SOURCE_DIR}/packaging/triggers")
+    "${PROJECT_SOURCE_DIR}/packaging/postinst;${PROJECT_SOURCE_DIR}/packaging/postrm;${PROJECT_SOURCE_DIR}/packaging/triggers;${PROJECT_SOURCE_DIR}/packaging/conffiles")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 include(CPack)

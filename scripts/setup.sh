@@ -10,7 +10,8 @@ packages=(
     cmake g++ make
     qt6-base-dev qt6-svg-dev qt6-qpa-plugins qt6-translations-l10n
     libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev
-    wngerman
+    # The two word lists DB1.txt is generated from, and zlib to unpack the second.
+    wngerman tanglet-data zlib1g-dev
     fonts-dejavu-core
 )
 if [ "${1:-}" = "--tests" ]; then

@@ -19,8 +19,12 @@ bool isSmall(char16_t c) {
 }
 
 char16_t withoutAccent(char16_t c) {
-    constexpr std::u16string_view accented = u"àâáçéèêëîïíñôóûùúÿÀÂÁÇÉÈÊËÎÏÍÑÔÓÛÙÚ";
-    constexpr std::u16string_view plain = u"aaaceeeeiiinoouuuyAAACEEEEIIINOOUUU";
+    if (c < 0xC0) // nothing below À has an accent
+        return c;
+    // French, Spanish, Scandinavian and transcribed Japanese or Sanskrit
+    // (Café, Señor, Ångström, Shōgun); umlauts are letters of their own.
+    constexpr std::u16string_view accented = u"àâáåāçčéèêëēîïíīñôóōõšûùúūÿÀÂÁÅÇČÉÈÊËÎÏÍÑÔÓÕŠÛÙÚ";
+    constexpr std::u16string_view plain = u"aaaaacceeeeeiiiinoooosuuuuyAAAACCEEEEIIINOOOSUUU";
     static_assert(accented.size() == plain.size());
     const std::size_t at = accented.find(c);
     return at == std::u16string_view::npos ? c : plain[at];
@@ -74,61 +78,102 @@ std::vector<std::u16string> ruleFileWords(std::string_view utf8File) {
     return words;
 }
 
-GameWordList gameWords(std::string_view utf8List, const WordListRules& rules) {
+std::vector<std::u16string> sourceEntries(std::string_view utf8List) {
+    const std::u16string text = fromUtf8(utf8List);
+    std::vector<std::u16string> entries;
+    for (const std::u16string_view line : lines(text)) {
+        if (!line.empty())
+            entries.emplace_back(line);
+    }
+    return entries;
+}
+
+std::size_t GameWordList::count(Outcome outcome) const {
+    std::size_t sum = 0;
+    for (const auto& perSource : counts)
+        sum += perSource[static_cast<std::size_t>(outcome)];
+    return sum;
+}
+
+GameWordList gameWords(const std::vector<std::u16string>& wordGame,
+                       const std::vector<std::u16string>& general, const WordListRules& rules) {
     GameWordList list;
     std::unordered_set<std::u16string> seen;
+    seen.reserve(wordGame.size() + general.size() / 8);
     // Compared as the game writes them (ß as ss): a word kept for being on the
     // list is still on it once written, so the list filtered again keeps it.
     std::unordered_set<std::u16string> vowelless;
     for (const std::u16string& word : rules.vowelless)
         vowelless.insert(writtenForTheGame(toLower(word)));
-    const auto judge = [&](std::u16string_view spelling, bool fromSource) {
+    const auto judge = [&](std::u16string_view spelling, Source source) {
+        const bool fromSource = source == Source::WordGame || source == Source::General;
         if (fromSource && rules.exclusions.contains(std::u16string(spelling)))
             return Outcome::Excluded;
         const std::u16string word = withoutAccents(spelling);
         if (!hasOnlyGameLetters(word))
             return Outcome::NotGameLetters;
-        if (word.size() < 2)
+        std::u16string written = replaceAll(word, u"ß", u"ss");
+        if (written.size() < 2)
             return Outcome::OneLetter;
+        if (written.size() == 2 && source != Source::TwoLetter)
+            return Outcome::TwoLetters;
+        if (written.size() > 2 && source == Source::TwoLetter)
+            return Outcome::LongerThanTwo;
         if (hasSeveralCapitals(word))
             return Outcome::SeveralCapitals;
-        std::u16string written = replaceAll(word, u"ß", u"ss");
-        if (!hasVowel(word) && !vowelless.contains(toLower(written)))
+        if (source != Source::TwoLetter && !hasVowel(word) && !vowelless.contains(toLower(written)))
             return Outcome::NoVowel;
-        if (!seen.insert(toUpper(written)).second)
+        std::u16string upper = toUpper(written);
+        if (source == Source::General) {
+            if (seen.contains(upper))
+                return Outcome::Duplicate;
+            if (std::any_of(word.begin(), word.end(), isCapital))
+                return Outcome::CapitalisedGeneral;
+            if (written.size() < kGeneralOnlyMinimumLength)
+                return Outcome::ShortGeneral;
+        }
+        if (!seen.insert(std::move(upper)).second)
             return Outcome::Duplicate;
         list.words.push_back(std::move(written));
-        return fromSource ? Outcome::Kept : Outcome::Supplemented;
+        return Outcome::Kept;
     };
-    const std::u16string text = fromUtf8(utf8List);
-    for (const std::u16string_view line : lines(text)) {
-        if (!line.empty())
-            ++list.counts[static_cast<std::size_t>(judge(line, true))];
-    }
-    for (const std::u16string& word : rules.supplement)
-        ++list.counts[static_cast<std::size_t>(judge(word, false))];
+    const auto judgeAll = [&](const std::vector<std::u16string>& entries, Source source) {
+        auto& counts = list.counts[static_cast<std::size_t>(source)];
+        for (const std::u16string& entry : entries)
+            ++counts[static_cast<std::size_t>(judge(entry, source))];
+    };
+    judgeAll(wordGame, Source::WordGame);
+    judgeAll(general, Source::General);
+    judgeAll(rules.supplement, Source::Supplement);
+    judgeAll(rules.twoLetter, Source::TwoLetter);
     return list;
 }
 
 std::string reportText(const GameWordList& list) {
     constexpr std::array<const char*, static_cast<std::size_t>(Outcome::Count)> kNames = {
-        "kept from the source list",
+        "kept",
+        "dropped: on the exclusion list (names, places, abbreviations)",
         "dropped: letters the game has no tile for (digits, hyphens, apostrophes)",
         "dropped: one letter",
+        "dropped: two letters (the curated file gives those)",
+        "dropped: longer than two letters, in the two-letter file",
         "dropped: two or more capitals (abbreviations)",
         "dropped: no vowel (abbreviations)",
-        "dropped: on the exclusion list (names, places, abbreviations)",
         "dropped: same upper-case form as an earlier word",
-        "added from the supplement"};
-    std::string text;
-    const auto addLine = [&text](std::size_t count, const char* what) {
-        const std::string number = std::to_string(count);
-        text += std::string(number.size() < 8 ? 8 - number.size() : 0, ' ') + number + "  " + what +
-                '\n';
+        "dropped: capitalised, only in the general list (names)",
+        "dropped: lower case under six letters, only in the general list (abbreviations)"};
+    const auto column = [](const std::string& cell) {
+        return std::string(cell.size() < 11 ? 11 - cell.size() : 0, ' ') + cell;
     };
-    for (std::size_t i = 0; i < kNames.size(); ++i)
-        addLine(list.counts[i], kNames[i]);
-    addLine(list.words.size(), "words in the game's word list");
+    std::string text = column("word-game") + column("general") + column("supplement") +
+                       column("two-letter") + "  (entries per source)\n";
+    for (std::size_t outcome = 0; outcome < kNames.size(); ++outcome) {
+        std::string line;
+        for (const auto& perSource : list.counts)
+            line += column(std::to_string(perSource[outcome]));
+        text += line + "  " + kNames[outcome] + '\n';
+    }
+    text += column(std::to_string(list.words.size())) + "  words in the game's word list\n";
     return text;
 }
 

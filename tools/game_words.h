@@ -32,42 +32,75 @@ namespace lettriner::tools {
 struct WordListRules {
     std::unordered_set<std::u16string> exclusions; // names, places, abbreviations: exact spelling
     std::unordered_set<std::u16string> vowelless; // allowed without a vowel; case and ß or ss alike
-    std::vector<std::u16string> supplement;       // words the source lacks
+    std::vector<std::u16string> supplement;       // words of three or more letters no source has
+    std::vector<std::u16string> twoLetter;        // every two-letter word, curated
 };
 
 // Lines of a UTF-8 rules file: "#" starts a comment, blanks around a word and
 // empty lines are ignored.
 [[nodiscard]] std::vector<std::u16string> ruleFileWords(std::string_view utf8File);
+// The entries of a UTF-8 word list, one per line (LF or CR LF), empty lines left out.
+[[nodiscard]] std::vector<std::u16string> sourceEntries(std::string_view utf8List);
+
+// Where a word comes from, in the order the list is built.
+enum class Source : std::size_t {
+    WordGame,   // the word-game list (tanglet-data): every word that passes
+    General,    // the general list (wngerman): what the word-game list lacks
+    Supplement, // tools/wordlist/supplement.txt
+    TwoLetter,  // tools/wordlist/two-letter.txt
+    Count
+};
 
 enum class Outcome : std::size_t {
     Kept,
+    Excluded,
     NotGameLetters,
     OneLetter,
+    TwoLetters,    // from a source: the curated file gives every two-letter word
+    LongerThanTwo, // in the two-letter file
     SeveralCapitals,
     NoVowel,
-    Excluded,
-    Duplicate, // its upper-case form came earlier
-    Supplemented,
+    Duplicate,          // its upper-case form came earlier
+    CapitalisedGeneral, // only the general list has it, capitalised: nearly all names
+    ShortGeneral, // only the general list has it, lower case, under six letters: abbreviations
     Count
 };
 
 struct GameWordList {
     std::vector<std::u16string> words;
-    std::array<std::size_t, static_cast<std::size_t>(Outcome::Count)> counts{};
-    [[nodiscard]] std::size_t count(Outcome outcome) const {
-        return counts[static_cast<std::size_t>(outcome)];
+    std::array<std::array<std::size_t, static_cast<std::size_t>(Outcome::Count)>,
+               static_cast<std::size_t>(Source::Count)>
+        counts{};
+    [[nodiscard]] std::size_t count(Source source, Outcome outcome) const {
+        return counts[static_cast<std::size_t>(source)][static_cast<std::size_t>(outcome)];
     }
+    [[nodiscard]] std::size_t count(Outcome outcome) const;
 };
 
-// From UTF-8 lines (LF or CR LF), in file order: a source spelling on the
-// exclusion list is dropped, so an upper-case form goes only when every
-// spelling that gives it is excluded ("Nahe" the river goes, "nahe" stays).
-// Accents are dropped, then the letter rules apply; ß is written as ss (the
-// game has no ß tile) and an upper-case form that came before is dropped.
-// Supplement words pass the letter rules, not the exclusions, and come last.
-[[nodiscard]] GameWordList gameWords(std::string_view utf8List, const WordListRules& rules);
+// The shortest lower-case word taken from the general list alone, in tiles (ß as ss).
+inline constexpr std::size_t kGeneralOnlyMinimumLength = 6;
 
-// One line per rule with its count, for the build log.
+// One list from two sources and the curated files, in this order:
+//   - every entry of the word-game list that passes the rules;
+//   - of the entries whose upper-case form the word-game list has not given,
+//     those of the general list written in lower case with six or more
+//     letters (its capitalised ones are mostly names, its short lower-case
+//     ones mostly abbreviations);
+//   - the supplement, which passes the rules but not the exclusions;
+//   - the two-letter file, which passes the rules but not the exclusions nor
+//     the vowel rule (ST).
+// The rules, in order, for every entry: a source spelling on the exclusion list
+// is dropped, so an upper-case form goes only when every spelling that gives
+// it is excluded ("Nahe" the river goes, "nahe" stays); accents are dropped;
+// then the letter rules (game letters only, not one letter, two letters only
+// from the curated file, not two capitals, a vowel or the allow list); ß is
+// written as ss (the game has no ß tile) and an upper-case form that came
+// before is dropped.
+[[nodiscard]] GameWordList gameWords(const std::vector<std::u16string>& wordGame,
+                                     const std::vector<std::u16string>& general,
+                                     const WordListRules& rules);
+
+// One line per rule with its count per source, for the build log and the README.
 [[nodiscard]] std::string reportText(const GameWordList& list);
 
 // The words in Windows-1252, CR LF after every word.

@@ -1,99 +1,157 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // lettriner-make-data: writes the data files the program ships.
-//   lettriner-make-data words SOURCE RULES OUT
-//                     game word list from a UTF-8 German list, with the rule
+//   lettriner-make-data words GENERAL WORDGAME RULES OUT
+//                     game word list from a UTF-8 German list (wngerman) and
+//                     a gzip word-game list (tanglet-data), with the rule
 //                     files of the folder RULES (see tools/wordlist/README.md)
 //   lettriner-make-data letters OUT1 OUT2  letter table and values
 //   lettriner-make-data messages OUT       message file
 //   lettriner-make-data settings OUT       default settings file
+// Every output is created afresh and never through a link (output_file.h).
 
 #include "data/text_case.h"
 #include "tools/file_bytes.h"
 #include "tools/game_words.h"
+#include "tools/gunzip.h"
+#include "tools/output_file.h"
 #include "tools/shipped_tables.h"
+#include "tools/word_game_list.h"
 
 #include <cstdio>
-#include <fstream>
 #include <iostream>
+#include <new>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace {
 
+using namespace lettriner::tools;
+
+// Larger than any word list will be unpacked (tanglet-data's is 16 MB).
+constexpr std::size_t kUnpackedLimit = std::size_t{256} << 20;
+
 bool writeFile(const std::string& path, const std::string& bytes) {
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (!out) {
-        std::fprintf(stderr, "lettriner-make-data: cannot write %s\n", path.c_str());
+    const std::string error = writeNewFile(path, bytes);
+    if (!error.empty()) {
+        std::fprintf(stderr, "lettriner-make-data: %s\n", error.c_str());
         return false;
     }
     return true;
 }
 
-int makeWords(const std::string& source, const std::string& rulesFolder,
-              const std::string& target) {
-    const std::optional<std::string> list = lettriner::tools::fileBytes(source);
-    if (!list) {
+std::optional<std::vector<std::u16string>> generalEntries(const std::string& path) {
+    const std::optional<std::string> bytes = fileBytes(path);
+    if (!bytes) {
         std::fprintf(stderr,
                      "lettriner-make-data: the German word list %s is missing; install the "
                      "Debian package 'wngerman'\n",
-                     source.c_str());
-        return 1;
+                     path.c_str());
+        return std::nullopt;
     }
-    const auto ruleWords = [&rulesFolder](const char* name, std::vector<std::u16string>& words) {
-        const std::optional<std::string> bytes =
-            lettriner::tools::fileBytes(rulesFolder + "/" + name);
+    return sourceEntries(*bytes);
+}
+
+std::optional<std::vector<std::u16string>> wordGameEntries(const std::string& path) {
+    const std::optional<std::string> bytes = fileBytes(path);
+    if (!bytes) {
+        std::fprintf(stderr,
+                     "lettriner-make-data: the word-game list %s is missing; install the "
+                     "Debian package 'tanglet-data'\n",
+                     path.c_str());
+        return std::nullopt;
+    }
+    const Gunzipped text = gunzip(*bytes, kUnpackedLimit);
+    if (!text.error.empty()) {
+        std::fprintf(stderr,
+                     "lettriner-make-data: cannot read the word-game list %s: %s; reinstall the "
+                     "Debian package 'tanglet-data'\n",
+                     path.c_str(), text.error.c_str());
+        return std::nullopt;
+    }
+    return wordGameSpellings(text.bytes);
+}
+
+std::optional<WordListRules> wordListRules(const std::string& folder) {
+    const auto words = [&folder](const char* name) -> std::optional<std::vector<std::u16string>> {
+        const std::optional<std::string> bytes = fileBytes(folder + "/" + name);
         if (!bytes) {
-            std::fprintf(stderr, "lettriner-make-data: cannot read %s/%s\n", rulesFolder.c_str(),
-                         name);
-            return false;
+            std::fprintf(stderr, "lettriner-make-data: cannot read %s/%s\n", folder.c_str(), name);
+            return std::nullopt;
         }
-        words = lettriner::tools::ruleFileWords(*bytes);
-        return true;
+        return ruleFileWords(*bytes);
     };
-    lettriner::tools::WordListRules rules;
-    std::vector<std::u16string> exclusions;
-    std::vector<std::u16string> vowelless;
-    if (!ruleWords("wordgame-exclusions.txt", exclusions) ||
-        !ruleWords("vowelless.txt", vowelless) || !ruleWords("supplement.txt", rules.supplement))
-        return 1;
-    rules.exclusions.insert(exclusions.begin(), exclusions.end());
-    for (const std::u16string& word : vowelless)
+    auto exclusions = words("wordgame-exclusions.txt");
+    auto vowelless = words("vowelless.txt");
+    auto supplement = words("supplement.txt");
+    auto twoLetter = words("two-letter.txt");
+    if (!exclusions || !vowelless || !supplement || !twoLetter)
+        return std::nullopt;
+    WordListRules rules;
+    rules.exclusions.insert(exclusions->begin(), exclusions->end());
+    for (const std::u16string& word : *vowelless)
         rules.vowelless.insert(lettriner::toLower(word));
-    const auto words = lettriner::tools::gameWords(*list, rules);
-    if (words.words.empty()) {
-        std::fprintf(stderr, "lettriner-make-data: %s holds no usable words\n", source.c_str());
+    rules.supplement = std::move(*supplement);
+    rules.twoLetter = std::move(*twoLetter);
+    return rules;
+}
+
+int makeWords(const std::string& generalPath, const std::string& wordGamePath,
+              const std::string& rulesFolder, const std::string& target) {
+    const auto general = generalEntries(generalPath);
+    const auto wordGame = wordGameEntries(wordGamePath);
+    const auto rules = wordListRules(rulesFolder);
+    if (!general || !wordGame || !rules)
         return 1;
+    const GameWordList words = gameWords(*wordGame, *general, *rules);
+    // A word of the general list that passes the rules is kept or is one the
+    // word-game list gave already.
+    const auto usable = [&words](Source source) {
+        return words.count(source, Outcome::Kept) + words.count(source, Outcome::Duplicate) > 0;
+    };
+    for (const auto& [source, path] :
+         {std::pair{Source::WordGame, &wordGamePath}, std::pair{Source::General, &generalPath}}) {
+        if (!usable(source)) {
+            std::fprintf(stderr, "lettriner-make-data: %s holds no usable words\n", path->c_str());
+            return 1;
+        }
     }
-    std::cout << "lettriner-make-data: " << target << " from " << source << ":\n"
-              << lettriner::tools::reportText(words);
-    return writeFile(target, lettriner::tools::wordFileBytes(words.words)) ? 0 : 1;
+    std::cout << "lettriner-make-data: " << target << " from " << wordGamePath << " and "
+              << generalPath << ":\n"
+              << reportText(words);
+    return writeFile(target, wordFileBytes(words.words)) ? 0 : 1;
 }
 
 int usage() {
-    std::cerr << "usage: lettriner-make-data words SOURCE RULES OUT | letters OUT1 OUT2 | "
-                 "messages OUT | settings OUT\n";
+    std::cerr << "usage: lettriner-make-data words GENERAL WORDGAME RULES OUT | letters OUT1 OUT2 "
+                 "| messages OUT | settings OUT\n";
     return 2;
+}
+
+int run(int argc, char** argv) {
+    if (argc < 3)
+        return usage();
+    const std::string_view command = argv[1];
+    if (command == "words" && argc == 6)
+        return makeWords(argv[2], argv[3], argv[4], argv[5]);
+    if (command == "letters" && argc == 4)
+        return writeFile(argv[2], letterFileBytes()) && writeFile(argv[3], valueFileBytes()) ? 0
+                                                                                             : 1;
+    if (command == "messages" && argc == 3)
+        return writeFile(argv[2], messageFileBytes()) ? 0 : 1;
+    if (command == "settings" && argc == 3)
+        return writeFile(argv[2], settingsFileBytes()) ? 0 : 1;
+    return usage();
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc < 3)
-        return usage();
-    const std::string_view command = argv[1];
-    if (command == "words" && argc == 5)
-        return makeWords(argv[2], argv[3], argv[4]);
-    if (command == "letters" && argc == 4) {
-        return writeFile(argv[2], lettriner::tools::letterFileBytes()) &&
-                       writeFile(argv[3], lettriner::tools::valueFileBytes())
-                   ? 0
-                   : 1;
+    try {
+        return run(argc, argv);
+    } catch (const std::bad_alloc&) {
+        std::fprintf(stderr, "lettriner-make-data: out of memory\n");
+        return 1;
     }
-    if (command == "messages" && argc == 3)
-        return writeFile(argv[2], lettriner::tools::messageFileBytes()) ? 0 : 1;
-    if (command == "settings" && argc == 3)
-        return writeFile(argv[2], lettriner::tools::settingsFileBytes()) ? 0 : 1;
-    return usage();
 }
