@@ -40,7 +40,11 @@ void* allocate(std::size_t bytes, std::size_t& mapped, bool touchFirst) {
         return data;
     }
     if (bytes >= kHugePage) {
-        const std::size_t rounded = (bytes + kHugePage - 1) / kHugePage * kHugePage;
+        // Whole small pages only: rounding up to a huge page would make the
+        // tail resident for nothing, up to 2 MiB an array. The whole huge
+        // pages inside still get huge pages; the tail gets small ones.
+        constexpr std::size_t kPage = 4096;
+        const std::size_t rounded = (bytes + kPage - 1) / kPage * kPage;
         if (void* data = alignedMapping(rounded)) {
             // Hints only: refused where huge pages are off or the kernel is older.
 #ifdef MADV_HUGEPAGE
