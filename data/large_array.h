@@ -35,8 +35,8 @@ public:
     explicit LargeArray(std::size_t size, Pages pages = Pages::Present) : size_(size) {
         if (size > SIZE_MAX / sizeof(T))
             throw std::bad_alloc();
-        data_ = static_cast<T*>(large_array_detail::allocate(size * sizeof(T), mapped_,
-                                                             pages == Pages::OnFirstWrite));
+        data_ = static_cast<T*>(
+            large_array_detail::allocate(size * sizeof(T), mapped_, pages == Pages::OnFirstWrite));
     }
     LargeArray(LargeArray&& other) noexcept
         : data_(std::exchange(other.data_, nullptr)), size_(std::exchange(other.size_, 0)),

@@ -2,6 +2,7 @@
 #include "data/word_database.h"
 
 #include "data/large_array.h"
+#include "data/line_ends.h"
 #include "data/number_format.h"
 #include "data/text_codec.h"
 
@@ -11,10 +12,6 @@
 #include <new>
 #include <stdexcept>
 #include <unordered_map>
-
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
 
 namespace lettriner {
 
@@ -28,38 +25,6 @@ struct WordDatabase::Storage {
 };
 
 namespace {
-
-// Line feeds and carriage returns of 64 bytes as bit masks (bit k: byte k).
-struct LineBytes {
-    std::uint64_t lineFeeds;
-    std::uint64_t returns;
-};
-
-LineBytes lineBytes(const char* block) {
-#if defined(__SSE2__)
-    LineBytes masks{0, 0};
-    const __m128i lf = _mm_set1_epi8('\n');
-    const __m128i cr = _mm_set1_epi8('\r');
-    for (int part = 0; part < 4; ++part) {
-        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block + 16 * part));
-        const auto shift = static_cast<unsigned>(16 * part);
-        masks.lineFeeds |= static_cast<std::uint64_t>(static_cast<std::uint32_t>(
-                               _mm_movemask_epi8(_mm_cmpeq_epi8(bytes, lf))))
-                           << shift;
-        masks.returns |= static_cast<std::uint64_t>(static_cast<std::uint32_t>(
-                             _mm_movemask_epi8(_mm_cmpeq_epi8(bytes, cr))))
-                         << shift;
-    }
-    return masks;
-#else
-    LineBytes masks{0, 0};
-    for (unsigned k = 0; k < 64; ++k) {
-        masks.lineFeeds |= std::uint64_t{block[k] == '\n'} << k;
-        masks.returns |= std::uint64_t{block[k] == '\r'} << k;
-    }
-    return masks;
-#endif
-}
 
 // Where every entry begins, written to `starts` from index 1 on; returns
 // the number of line ends. `starts` needs room for the line ends plus 64:

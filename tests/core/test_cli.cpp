@@ -79,10 +79,9 @@ TEST(ParseOptions, TileOptionsAreUpperCasedAndCheckTakesTheFollowingWords) {
 
 TEST(MessageText, ShowsWhatCannotBePrintedByItsCode) {
     const std::pair<std::u16string, std::string> cases[] = {
-        {u"ok\u00e4", "ok\xC3\xA4"},
-        {std::u16string(1, 0xD83D), "U+D83D"},
-        {u"\x1b[2J\u0085", "\\x1b[2JU+0085"},
-        {u"\U0001F600", "\xF0\x9F\x98\x80"},
+        {u"ok\u00e4", "ok\xC3\xA4"},          {std::u16string(1, 0xD83D), "U+D83D"},
+        {u"\x1b[2J\u0085", "\\x1b[2JU+0085"}, {u"\U0001F600", "\xF0\x9F\x98\x80"},
+        {u"\U0010FFFF", "\xF4\x8F\xBF\xBF"},
     };
     for (const auto& [text, shown] : cases)
         EXPECT_EQ(messageText(text), shown);

@@ -4,6 +4,8 @@
 
 #include "data/file_helpers.h"
 #include "data/language_file.h"
+#include "data/large_array.h"
+#include "data/line_ends.h"
 #include "data/settings_file.h"
 #include "data/text_codec.h"
 #include "data/text_lines.h"
@@ -13,8 +15,11 @@
 #include "engine/letter_values.h"
 #include "support/temp_folder.h"
 
+#include <array>
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
+#include <malloc.h>
 #include <map>
 #include <optional>
 #include <random>
@@ -84,7 +89,7 @@ TEST(WiederholtErsetzen, ReplacesUntilNoOccurrenceIsLeft) {
         EXPECT_EQ(WiederholtErsetzen(text, search, replacement), expected) << toUtf8(text);
 }
 
-TEST(SchluesselWertHolen, FindsTheFirstFieldAfterTheKey) {
+TEST(TaggedLines, TheValueIsTheFirstFieldAfterTheKey) {
     // clang-format off
     const std::tuple<const char*, std::u16string, std::u16string, std::u16string> cases[] = {
         {"collapsed line",                 u"[Language]", u"[Language]\t1\r\n",         u"1"},
@@ -212,6 +217,42 @@ TEST(DatenbankEinlesen, CutsLongFilesLikeThePlainSplit) {
         for (std::size_t i = 0; i < list.size(); ++i)
             ASSERT_EQ(list[i], expected[i]) << "entry " << i << " of " << bytes.size() << " bytes";
     }
+}
+
+TEST(LineEnds, VectorCodeFindsWhatThePlainLoopFinds) {
+    std::mt19937 random(64);
+    const char kinds[] = {'\r', '\n', 'a', '\0', '\xFF', '\x8D'};
+    for (int round = 0; round < 2000; ++round) {
+        std::array<char, 64> block{};
+        for (char& c : block)
+            c = kinds[random() % std::size(kinds)];
+        ASSERT_EQ(lineBytes(block.data()), lineBytesPlain(block.data())) << round;
+    }
+}
+
+// What the program has mapped (kB) and what the allocator holds for it.
+std::pair<long, std::size_t> memoryHeld() {
+    std::ifstream status("/proc/self/status");
+    std::string line;
+    long mapped = 0;
+    while (std::getline(status, line)) {
+        if (line.starts_with("VmSize:"))
+            mapped = std::stol(line.substr(7));
+    }
+    return {mapped, mallinfo2().uordblks};
+}
+
+TEST(LargeArray, GivesBackEveryByteItTakes) {
+    const auto before = memoryHeld();
+    // From the allocator, a mapping of its own, huge-page aligned, with a tail.
+    for (const std::size_t size : {std::size_t{10}, std::size_t{100} << 10, std::size_t{4} << 20,
+                                   (std::size_t{5} << 20) + 1}) {
+        for (int round = 0; round < 20; ++round) {
+            LargeArray<char> array(size, round % 2 == 0 ? Pages::Present : Pages::OnFirstWrite);
+            array[size - 1] = 'x';
+        }
+    }
+    EXPECT_EQ(memoryHeld(), before);
 }
 
 TEST(DatenbankEinlesen, YieldsOnceAfterReadingAndShowsTheGroupedCount) {

@@ -49,7 +49,7 @@ TEST(NumericValue, ReadsTheLongestLeadingNumber) {
         {u"1e3", 1000}, {u"1e12", 1e12}, {u"2.5E+2", 250}, {u"25e-2", 0.25}, {u"1d2", 100}, {u"1D2", 100},
         {u"&H1F", 31}, {u"&hff", 255}, {u"&HaF", 175}, {u"&H1G", 1}, {u"& H 1 0", 16}, {u"&O17", 15},
         {u"&o17", 15}, {u"&O78", 7}, {u"&O9", 0}, {u"&H", 0}, {u"&B101", 0}, {u"-&H10", 0},
-        {u"&HFFFF", 65535}, {u"1e999", kInf}, {u"-1e999", -kInf}, {u"7e", 7}, {u"7e-", 7}, {u"e3", 0},
+        {u"&HFFFF", 65535}, {u"&HA", 10}, {u"1e999", kInf}, {u"-1e999", -kInf}, {u"7e", 7}, {u"7e-", 7}, {u"e3", 0},
         {u"00012", 12}, {u"0.000125e3", 0.125}, {u"1" + std::u16string(400, u'0'), kInf}, {u"0.001e312", kInf}, {u"10e308", kInf},
         {u"1e-999", 0}, {u"0e999", 0}, {u"0.5e-400", 0}, {u"0.001e-400", 0}, {u"nan", 0}, {u"inf", 0},
         {u"0." + std::u16string(400, u'0') + u"1e10", 0}, {u"1 e 3", 1000}, {u"-.", 0},
@@ -114,7 +114,7 @@ TEST(Utf8, DecodesAndReplacesMalformedInput) {
         {"\xF0\x90\x80\x80", u"\xD800\xDC00"}, {"\xF4\x8F\xBF\xBF", u"\xDBFF\xDFFF"},
         {"a\377b", u"a\xFFFD" u"b"}, {"a\xC3", u"a\xFFFD"}, {"\303A", u"\xFFFD" u"A"},
         {"\xC1\xBF", u"\xFFFD\xFFFD"}, {"\xE0\x9F\xBF", u"\xFFFD"}, {"\xF0\x8F\xBF\xBF", u"\xFFFD"},
-        {"\xED\xA0\x80", u"\xFFFD"}, {"\xF4\x90\x80\x80", u"\xFFFD"}, {"\xF5\x80", u"\xFFFD\xFFFD"},
+        {"\xED\xA0\x80", u"\xFFFD"}, {"\xED\xBF\xBF", u"\xFFFD"}, {"\xF4\x90\x80\x80", u"\xFFFD"}, {"\xF5\x80", u"\xFFFD\xFFFD"},
         {"\xE2\x82", u"\xFFFD"}, {"\x80", u"\xFFFD"},
     };
     // clang-format on

@@ -28,7 +28,7 @@ LetterValueTable gameValues() {
     LetterValueTable table;
     const std::pair<char16_t, double> values[] = {
         {u'A', 1}, {u'B', 3}, {u'E', 1}, {u'H', 2}, {u'L', 2}, {u'P', 4}, {u'R', 1},
-        {u'S', 1}, {u'T', 1}, {u'U', 1}, {u'Ä', 6}, {u'ß', 3}, {u'Z', 3}};
+        {u'S', 1}, {u'T', 1}, {u'U', 1}, {u'Ä', 6}, {u'ß', 3}, {u'Z', 3}, {u'Y', 20000}};
     for (const auto& [letter, value] : values)
         table.set(windows1252Code(letter), value);
     return table;
@@ -75,6 +75,7 @@ TEST(TileTest, BlanksAndPatternsCoverLettersAsThePlayerWould) {
         {"pattern letter differs",                u"BET",  0, 0, u"..S.E",  u"",   0,  u"BETTE",  kNo,    0,  u"",    u"",  u""},
         {"pattern is the exact length",           u"BETN", 0, 0, u"..S.E",  u"",   0,  u"BESTEN", kNo,    0,  u"",    u"",  u""},
         {"a dot needs a tile like any letter",    u"BE",   0, 0, u"..S.E",  u"",   0,  u"BESTE",  kNo,    0,  u"",    u"",  u""},
+        {"beyond 16 bits, then back within",      u"Y",    1, 0, u"",       u"",   0,  u"YY",     kBonus, 20000, u"", u"",  u"y"},
     };
     // clang-format on
     const LetterValueTable values = gameValues();
