@@ -1,7 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/word_graph.h"
 
+#include <algorithm>
+
 namespace lettriner::board {
+
+WordGraph::WordGraph(const std::vector<Arc>& arcs, std::uint32_t wordCount)
+    : size_(static_cast<std::uint32_t>(arcs.size())), wordCount_(wordCount) {
+    std::unique_ptr<Arc[]> copy(new Arc[arcs.size()]);
+    std::copy(arcs.begin(), arcs.end(), copy.get());
+    arcs_ = std::move(copy);
+}
 
 bool WordGraph::contains(std::span<const Letter> word) const {
     if (word.empty())
@@ -25,7 +34,7 @@ std::string validateWordGraph(std::span<const Arc> arcs) {
         return "the word graph is larger than any word list gives";
     const std::size_t size = arcs.size();
     for (std::size_t root = 0; root < 2; ++root) {
-        if (arcs[root] >= size || (arcs[root] != 0 && arcs[root] < 2))
+        if (arcs[root] >= size)
             return "a root of the word graph points outside it";
     }
     if (size > 2 && !arcIsLast(arcs[size - 1]))
@@ -35,10 +44,8 @@ std::string validateWordGraph(std::span<const Arc> arcs) {
         if (arcLetter(arc) > kLetterCount)
             return "the word graph holds a letter outside the alphabet";
         const std::uint32_t child = arcChild(arc);
-        if (child >= size || (child != 0 && child < 2))
+        if (child >= size)
             return "an arc of the word graph points outside it";
-        if (!arcIsLast(arc) && i + 1 < size && arcLetter(arcs[i + 1]) <= arcLetter(arc))
-            return "a node of the word graph is out of order";
         if ((arc >> 31) != 0)
             return "an arc of the word graph has an unknown flag";
     }

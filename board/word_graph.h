@@ -18,6 +18,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <vector>
@@ -46,14 +47,16 @@ using LetterString = std::basic_string<Letter>;
 class WordGraph {
 public:
     WordGraph() = default;
-    // Takes arcs already validated (or built by buildWordGraph).
-    explicit WordGraph(std::vector<Arc> arcs, std::uint32_t wordCount)
-        : arcs_(std::move(arcs)), wordCount_(wordCount) {}
+    // Take arcs already validated (or built by buildWordGraph). Copies of a
+    // graph share its arcs.
+    WordGraph(const std::vector<Arc>& arcs, std::uint32_t wordCount);
+    WordGraph(std::unique_ptr<Arc[]> arcs, std::uint32_t size, std::uint32_t wordCount)
+        : arcs_(std::move(arcs)), size_(size), wordCount_(wordCount) {}
 
-    [[nodiscard]] bool empty() const { return arcs_.size() <= 2; }
-    [[nodiscard]] std::span<const Arc> arcs() const { return arcs_; }
+    [[nodiscard]] bool empty() const { return size_ <= 2; }
+    [[nodiscard]] std::span<const Arc> arcs() const { return {arcs_.get(), size_}; }
     [[nodiscard]] std::uint32_t wordCount() const { return wordCount_; }
-    [[nodiscard]] const Arc* data() const { return arcs_.data(); }
+    [[nodiscard]] const Arc* data() const { return arcs_.get(); }
     // First arc of each root node; 0 when the graph is empty.
     [[nodiscard]] std::uint32_t dawgRoot() const { return rootOf(kDawgRootArc); }
     [[nodiscard]] std::uint32_t gaddagRoot() const { return rootOf(kGaddagRootArc); }
@@ -76,10 +79,11 @@ public:
 
 private:
     [[nodiscard]] std::uint32_t rootOf(std::uint32_t arc) const {
-        return arcs_.size() > 2 ? arcChild(arcs_[arc]) : 0;
+        return size_ > 2 ? arcChild(arcs_[arc]) : 0;
     }
 
-    std::vector<Arc> arcs_;
+    std::shared_ptr<const Arc[]> arcs_;
+    std::uint32_t size_ = 0;
     std::uint32_t wordCount_ = 0;
 };
 
@@ -89,9 +93,10 @@ private:
 [[nodiscard]] WordGraph buildWordGraph(std::vector<LetterString> words);
 
 // Why `arcs` cannot be walked safely, or empty when it can: every child
-// index inside the array, every letter a letter or the separator, the last
-// arc flagged last (so every scan of a node ends inside the array), and
-// the nodes' letters ascending.
+// index (and root) inside the array, every letter a letter or the separator,
+// the last arc flagged last, so every scan of a node ends inside the array.
+// Nodes whose letters do not ascend (never built, only forged) are walked
+// safely but may miss words.
 [[nodiscard]] std::string validateWordGraph(std::span<const Arc> arcs);
 
 } // namespace lettriner::board

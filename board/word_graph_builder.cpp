@@ -197,6 +197,55 @@ private:
     std::size_t depth_ = 0;
 };
 
+std::uint32_t nodeLength(const std::vector<Arc>& arcs, std::uint32_t start) {
+    std::uint32_t length = 1;
+    while (!arcIsLast(arcs[start + length - 1]))
+        ++length;
+    return length;
+}
+
+// Lays the nodes out again, each followed by the child of its last arc when
+// no other node claimed that place first: the file then stores most arcs
+// without a child index (word_graph_file.h), and a walk down the graph reads
+// memory in order.
+std::vector<Arc> layOutDepthFirst(const std::vector<Arc>& arcs) {
+    std::vector<std::uint32_t> newStart(arcs.size(), 0);
+    std::vector<std::uint32_t> order;
+    std::vector<std::uint32_t> pending;
+    std::uint32_t next = 2;
+    for (const std::uint32_t root : {arcs[kDawgRootArc], arcs[kGaddagRootArc]}) {
+        pending.push_back(root);
+        while (!pending.empty()) {
+            std::uint32_t node = pending.back();
+            pending.pop_back();
+            // Place a chain: the node, the child of its last arc, and so on.
+            while (node != 0 && newStart[node] == 0) {
+                const std::uint32_t length = nodeLength(arcs, node);
+                newStart[node] = next;
+                next += length;
+                order.push_back(node);
+                for (std::uint32_t i = node + length - 1; i-- > node;) {
+                    if (arcChild(arcs[i]) != 0 && newStart[arcChild(arcs[i])] == 0)
+                        pending.push_back(arcChild(arcs[i]));
+                }
+                node = arcChild(arcs[node + length - 1]);
+            }
+        }
+    }
+    std::vector<Arc> result(next, 0);
+    result[kDawgRootArc] = newStart[arcs[kDawgRootArc]];
+    result[kGaddagRootArc] = newStart[arcs[kGaddagRootArc]];
+    for (const std::uint32_t node : order) {
+        const std::uint32_t length = nodeLength(arcs, node);
+        for (std::uint32_t k = 0; k < length; ++k) {
+            const Arc arc = arcs[node + k];
+            const std::uint32_t child = arcChild(arc) == 0 ? 0 : newStart[arcChild(arc)];
+            result[newStart[node] + k] = (arc & ~0xFFFFFFu) | child;
+        }
+    }
+    return result;
+}
+
 bool playable(const LetterString& word) {
     if (word.size() < 2 || word.size() > kLongestWord)
         return false;
@@ -247,7 +296,7 @@ WordGraph buildWordGraph(std::vector<LetterString> words) {
     store.setRoot(kGaddagRootArc, gaddag.finish());
     if (store.overflowed())
         return {};
-    return WordGraph(store.take(), static_cast<std::uint32_t>(words.size()));
+    return WordGraph(layOutDepthFirst(store.take()), static_cast<std::uint32_t>(words.size()));
 }
 
 } // namespace lettriner::board
