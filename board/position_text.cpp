@@ -212,6 +212,10 @@ PositionRead readCgp(std::string_view bytes) {
     std::size_t at = 0;
     while (at < text.size() && isSpace(text[at]))
         ++at;
+    if (at == text.size()) {
+        result.error = "the position is empty";
+        return result;
+    }
     const auto where = [&](std::size_t index) { return "column " + std::to_string(index + 1); };
     int row = 0;
     int column = 0;

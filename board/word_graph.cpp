@@ -46,8 +46,6 @@ std::string validateWordGraph(std::span<const Arc> arcs) {
         const std::uint32_t child = arcChild(arc);
         if (child >= size)
             return "an arc of the word graph points outside it";
-        if ((arc >> 31) != 0)
-            return "an arc of the word graph has an unknown flag";
     }
     return {};
 }

@@ -147,7 +147,9 @@ std::optional<std::int64_t> modificationTime(const std::filesystem::path& path) 
 }
 
 std::string encodeWordGraphFile(const WordGraph& graph, const SourceStamp& stamp) {
-    const std::span<const Arc> arcs = graph.arcs();
+    // An empty graph is stored as its two roots pointing nowhere.
+    static constexpr Arc kNoRoots[2] = {0, 0};
+    const std::span<const Arc> arcs = graph.arcs().size() >= 2 ? graph.arcs() : kNoRoots;
     if (arcs.size() > kMostFileArcs)
         return {};
     ArcParts parts;
@@ -164,8 +166,8 @@ std::string encodeWordGraphFile(const WordGraph& graph, const SourceStamp& stamp
     put64(out, stamp.hash);
     put32(out, graph.wordCount());
     put32(out, static_cast<std::uint32_t>(arcs.size()));
-    put32(out, arcs.size() > 2 ? arcs[kDawgRootArc] : 0);
-    put32(out, arcs.size() > 2 ? arcs[kGaddagRootArc] : 0);
+    put32(out, arcs[kDawgRootArc]);
+    put32(out, arcs[kGaddagRootArc]);
     put32(out, static_cast<std::uint32_t>(parts.farBytes.size()));
     put32(out, 0); // reserved
     put64(out, 0); // the checksum, filled in below
