@@ -45,10 +45,14 @@ void applyMove(Board& board, const Move& move);
 [[nodiscard]] std::strong_ordering compareMoves(const Move& a, const Move& b);
 
 // Score, row, column and direction in one number that sorts like them.
+[[nodiscard]] inline std::uint64_t placeKey(std::int32_t score, int row, int column,
+                                            Direction direction) {
+    const auto descendingScore = static_cast<std::uint64_t>(std::int64_t{INT32_MAX} - score);
+    return (descendingScore << 32) | (static_cast<std::uint64_t>(row) << 16) |
+           (static_cast<std::uint64_t>(column) << 8) | static_cast<std::uint64_t>(direction);
+}
 [[nodiscard]] inline std::uint64_t movePlaceKey(const Move& move) {
-    const auto descendingScore = static_cast<std::uint64_t>(std::int64_t{INT32_MAX} - move.score);
-    return (descendingScore << 32) | (std::uint64_t{move.row} << 16) |
-           (std::uint64_t{move.column} << 8) | static_cast<std::uint64_t>(move.direction);
+    return placeKey(move.score, move.row, move.column, move.direction);
 }
 
 [[nodiscard]] inline bool movePrecedes(const Move& a, const Move& b) {

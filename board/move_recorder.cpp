@@ -10,8 +10,9 @@ std::vector<Move> AllMovesRecorder::takeSorted() {
     return std::move(moves_);
 }
 
-BestMovesRecorder::BestMovesRecorder(std::size_t count)
-    : MoveRecorder(count == 0 ? INT_MAX : INT_MIN), count_(count) {
+BestMovesRecorder::BestMovesRecorder(std::size_t count) : count_(count) {
+    if (count == 0)
+        keepNothing();
     heap_.reserve(count < 1024 ? count : 1024);
 }
 
@@ -29,7 +30,7 @@ void BestMovesRecorder::record(const Move& move) {
         return;
     }
     if (heap_.size() == count_)
-        setThreshold(heap_.front().score);
+        setThreshold(heap_.front());
 }
 
 std::vector<Move> BestMovesRecorder::takeSorted() {

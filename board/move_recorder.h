@@ -9,6 +9,7 @@
 
 #include <climits>
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 namespace lettriner::board {
@@ -17,20 +18,33 @@ class MoveRecorder {
 public:
     virtual ~MoveRecorder() = default;
     virtual void record(const Move& move) = 0;
-    // Moves scoring less are not kept (ties are the recorder's to decide).
+    // Moves scoring less are not kept.
     [[nodiscard]] int threshold() const { return threshold_; }
+    // Moves whose movePlaceKey() is larger are not kept either: once full,
+    // "best N" keeps a move scoring the same as its last one only if it comes
+    // earlier on the board.
+    [[nodiscard]] std::uint64_t thresholdKey() const { return thresholdKey_; }
     // Whether the threshold rises as moves come in; the generator then visits
-    // the anchors with the highest score bound first.
+    // the placements with the highest score bound first.
     [[nodiscard]] virtual bool raisesThreshold() const { return false; }
 
 protected:
     explicit MoveRecorder(int threshold = INT_MIN) : threshold_(threshold) {}
     MoveRecorder(const MoveRecorder&) = default;
     MoveRecorder& operator=(const MoveRecorder&) = default;
-    void setThreshold(int threshold) { threshold_ = threshold; }
+    // The last move that is still kept sets both thresholds.
+    void setThreshold(const Move& lastKept) {
+        threshold_ = lastKept.score;
+        thresholdKey_ = movePlaceKey(lastKept);
+    }
+    void keepNothing() {
+        threshold_ = INT_MAX;
+        thresholdKey_ = 0;
+    }
 
 private:
     int threshold_;
+    std::uint64_t thresholdKey_ = UINT64_MAX;
 };
 
 // Keeps every move, in the order found.

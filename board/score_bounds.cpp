@@ -36,12 +36,10 @@ int boundOf(const Stretch& stretch, const RackValues& rack) {
     for (int i = 0; i < stretch.openCount; ++i) {
         const OpenSquare& square = stretch.open[static_cast<std::size_t>(i)];
         // A tile's value counts in the main word and, when there is one, in its cross word.
-        int multiplier = square.letterMultiplier * (wordMultiplier + square.crossWordMultiplier);
+        const int multiplier = square.letterMultiplier * (wordMultiplier + square.crossWordMultiplier);
         int at = i;
-        while (at > 0 && multipliers[static_cast<std::size_t>(at - 1)] < multiplier) {
+        for (; at > 0 && multipliers[static_cast<std::size_t>(at - 1)] < multiplier; --at)
             multipliers[static_cast<std::size_t>(at)] = multipliers[static_cast<std::size_t>(at - 1)];
-            --at;
-        }
         multipliers[static_cast<std::size_t>(at)] = multiplier;
     }
     int tiles = 0;
@@ -73,15 +71,14 @@ RackValues rackValues(const Rack& rack, const TileValues& values) {
     return result;
 }
 
-int anchorScoreBound(const PlayLine& line, int anchor, int leftLimit, LetterMask available,
-                     const RackValues& rack) {
+void anchorStretches(const PlayLine& line, int anchor, int leftLimit, LetterMask available,
+                     const RackValues& rack, std::vector<StretchBound>& stretches) {
     const auto& squares = line.squares;
     const auto square = [&](int position) -> const LineSquare& {
         return squares[static_cast<std::size_t>(position)];
     };
     if (rack.count == 0 || (square(anchor).allowed & available) == 0)
-        return INT_MIN;
-    int best = INT_MIN;
+        return;
     // The stretch's left part grows one square at a time; for every place it
     // may start, the right part grows from the anchor the same way.
     Stretch left;
@@ -91,8 +88,11 @@ int anchorScoreBound(const PlayLine& line, int anchor, int leftLimit, LetterMask
         if (start == 0 || square(start - 1).tile == kEmpty) {
             Stretch stretch = left;
             for (int end = anchor;;) {
-                if (end == kBoardSize - 1 || square(end + 1).tile == kEmpty)
-                    best = std::max(best, boundOf(stretch, rack));
+                if (end == kBoardSize - 1 || square(end + 1).tile == kEmpty) {
+                    stretches.push_back({static_cast<std::int8_t>(start), static_cast<std::int8_t>(end),
+                                         static_cast<std::int8_t>(stretch.openCount),
+                                         boundOf(stretch, rack)});
+                }
                 if (++end == kBoardSize)
                     break;
                 const LineSquare& next = square(end);
@@ -116,7 +116,45 @@ int anchorScoreBound(const PlayLine& line, int anchor, int leftLimit, LetterMask
             break;
         left.open[static_cast<std::size_t>(left.openCount++)] = openSquare(next);
     }
+}
+
+int anchorScoreBound(const PlayLine& line, int anchor, int leftLimit, LetterMask available,
+                     const RackValues& rack) {
+    thread_local std::vector<StretchBound> stretches;
+    stretches.clear();
+    anchorStretches(line, anchor, leftLimit, available, rack, stretches);
+    int best = INT_MIN;
+    for (const StretchBound& stretch : stretches)
+        best = std::max(best, stretch.bound);
     return best;
+}
+
+StretchScoring stretchScoring(const PlayLine& line, int start, int end) {
+    StretchScoring scoring;
+    int wordMultiplier = 1;
+    int boardTiles = 0;
+    int open = 0;
+    for (int position = start; position <= end; ++position) {
+        const LineSquare& square = line.squares[static_cast<std::size_t>(position)];
+        if (square.tile != kEmpty) {
+            boardTiles += square.tileValue;
+            continue;
+        }
+        ++open;
+        wordMultiplier *= square.wordMultiplier;
+        if (square.crossTiles != 0)
+            scoring.fixed += square.crossScore * square.wordMultiplier;
+    }
+    scoring.fixed += boardTiles * wordMultiplier + (open == kRackSize ? kBonus : 0);
+    for (int position = start; position <= end; ++position) {
+        const LineSquare& square = line.squares[static_cast<std::size_t>(position)];
+        if (square.tile == kEmpty) {
+            const int crossWord = square.crossTiles != 0 ? square.wordMultiplier : 0;
+            scoring.multiplier[static_cast<std::size_t>(position)] =
+                square.letterMultiplier * (wordMultiplier + crossWord);
+        }
+    }
+    return scoring;
 }
 
 } // namespace lettriner::board

@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// Upper bounds on the score of the moves the generator can find from one
-// anchor, so that "best only" and "best N" can visit the most promising
-// anchors first and stop once no remaining anchor can beat what they hold.
-// For every stretch of squares a move from the anchor could cover, the bound
-// takes the board tiles and cross-scores as they are and lays the rack's most
-// valuable tiles on the squares that multiply most (ignoring which letters
-// fit where), so no move on that stretch can score more.
+// What the moves from one anchor can score, so that "best only" and "best N"
+// visit the most promising placements first and stop once no remaining one
+// can beat what they hold. A stretch is the span a move's main word covers;
+// for each stretch a move from the anchor could cover, the bound takes the
+// board tiles and cross-scores as they are and lays the rack's most valuable
+// tiles on the squares that multiply most (ignoring which letters fit where),
+// so no move on that stretch can score more.
 
 #include "board/play_lines.h"
 #include "board/rack.h"
 #include "board/tile_values.h"
 
 #include <array>
+#include <cstdint>
+#include <vector>
 
 namespace lettriner::board {
 
@@ -23,11 +25,31 @@ struct RackValues {
 };
 [[nodiscard]] RackValues rackValues(const Rack& rack, const TileValues& values);
 
-// The highest score a move along `line` can reach that lays a tile on
-// `anchor` and lays none left of it beyond `leftLimit` (exclusive, -1 for
-// none), with squares allowing none of `available` left empty. INT_MIN when
-// no stretch is possible.
+struct StretchBound {
+    std::int8_t start; // first and last square of the main word
+    std::int8_t end;
+    std::int8_t open; // squares a move on it lays tiles on
+    int bound;
+};
+
+// Every stretch along `line` that covers `anchor`, lays no tile left of it
+// beyond `leftLimit` (exclusive, -1 for none), lays at most the rack's tiles
+// and none on a square allowing none of `available`, with its bound; appended
+// to `stretches`.
+void anchorStretches(const PlayLine& line, int anchor, int leftLimit, LetterMask available,
+                     const RackValues& rack, std::vector<StretchBound>& stretches);
+
+// The highest bound of the anchor's stretches; INT_MIN when it has none.
 [[nodiscard]] int anchorScoreBound(const PlayLine& line, int anchor, int leftLimit,
                                    LetterMask available, const RackValues& rack);
+
+// A stretch's score split as the generator lays tiles: every move on it
+// scores `fixed` (board tiles, cross-scores, the bonus) plus, for each laid
+// tile, its value times the multiplier of its square.
+struct StretchScoring {
+    int fixed = 0;
+    std::array<int, kBoardSize> multiplier{}; // by square; 0 on board tiles
+};
+[[nodiscard]] StretchScoring stretchScoring(const PlayLine& line, int start, int end);
 
 } // namespace lettriner::board
