@@ -6,11 +6,12 @@
 // list comes from the run folder.
 
 #include "board/lexicon.h"
+#include "board/lexicon_file.h"
+#include "board/lexicon_loading.h"
 #include "board/move_generator.h"
 #include "board/playable_words.h"
 #include "board/position_text.h"
 #include "board/tile_values.h"
-#include "board/word_graph_file.h"
 #include "engine/letter_values.h"
 
 #include <algorithm>
@@ -30,7 +31,7 @@ const std::filesystem::path kRunFolder = LETTRINER_RUN_DIR;
 
 struct ShippedList {
     WordDatabase database = DatenbankEinlesen(kRunFolder / "DB1.txt");
-    WordGraph graph = buildWordGraph(playableWords(database));
+    Lexicon lexicon = buildLexicon(playableWords(database));
     TileValues values{BewertungsFeldLaden(kRunFolder)};
 };
 
@@ -63,7 +64,7 @@ void allMovesOf(benchmark::State& state, const Position& position) {
     std::size_t moves = 0;
     for (auto _ : state) {
         AllMovesRecorder recorder;
-        generateMoves(position.board, position.rack, list.graph, list.values, {}, recorder);
+        generateMoves(position.board, position.rack, list.lexicon, list.values, {}, recorder);
         moves = recorder.moves().size();
         benchmark::DoNotOptimize(recorder.moves().data());
     }
@@ -77,7 +78,7 @@ void bestMovesOf(benchmark::State& state, const Position& position, std::size_t 
     int best = 0;
     for (auto _ : state) {
         const std::vector<Move> moves =
-            bestMoves(position.board, position.rack, list.graph, list.values, count);
+            bestMoves(position.board, position.rack, list.lexicon, list.values, count);
         best = moves.empty() ? 0 : moves.front().score;
         benchmark::DoNotOptimize(moves.data());
     }
@@ -98,7 +99,7 @@ void BM_BestMoveSummary(benchmark::State& state) {
             for (int run = 0; run < 20; ++run) {
                 const auto start = std::chrono::steady_clock::now();
                 const std::vector<Move> moves = bestMoves(named.position.board, named.position.rack,
-                                                          list.graph, list.values, 1);
+                                                          list.lexicon, list.values, 1);
                 benchmark::DoNotOptimize(moves.data());
                 fastest = std::min(fastest, std::chrono::duration<double, std::micro>(
                                                 std::chrono::steady_clock::now() - start)
@@ -113,35 +114,36 @@ void BM_BestMoveSummary(benchmark::State& state) {
     state.counters["positions"] = static_cast<double>(micros.size());
 }
 
-void BM_GraphBuild(benchmark::State& state) {
+void BM_LexiconBuild(benchmark::State& state) {
     const ShippedList& list = shippedList();
     std::size_t arcs = 0;
     for (auto _ : state) {
-        const WordGraph graph = buildWordGraph(playableWords(list.database));
-        arcs = graph.arcs().size();
+        const Lexicon lexicon = buildLexicon(playableWords(list.database));
+        arcs = lexicon.graph.arcs().size();
     }
-    const std::string file = encodeWordGraphFile(list.graph, {});
-    state.counters["words"] = list.graph.wordCount();
+    const std::string file = encodeLexiconFile(list.lexicon, {});
+    state.counters["words"] = list.lexicon.graph.wordCount();
+    state.counters["anagram_words"] = static_cast<double>(list.lexicon.anagrams.words().size());
     state.counters["arcs"] = static_cast<double>(arcs);
     state.counters["file_bytes"] = static_cast<double>(file.size());
     state.counters["DB1_bytes"] = static_cast<double>(std::filesystem::file_size(kRunFolder / "DB1.txt"));
 }
 
-// Reading the graph file as the program does at start: checked against
+// Reading the lexicon file as the program does at start: checked against
 // DB1.txt (size and time), read, checksummed and decoded into fresh memory.
-void BM_GraphLoad(benchmark::State& state) {
+void BM_LexiconLoad(benchmark::State& state) {
     shippedList();
-    const std::filesystem::path file = std::filesystem::temp_directory_path() / "lettriner-bench-DB1.graph";
+    const std::filesystem::path file = std::filesystem::temp_directory_path() / "lettriner-bench-DB1.lex";
     std::string error;
-    if (!writeGraphFileFor(kRunFolder / "DB1.txt", file, error)) {
+    if (!writeLexiconFileFor(kRunFolder / "DB1.txt", file, error)) {
         state.SkipWithError(error.c_str());
         return;
     }
     std::size_t arcs = 0;
     for (auto _ : state) {
-        const GraphFileCheck check = readGraphFile(file, kRunFolder / "DB1.txt");
-        arcs = check.graph.arcs().size();
-        if (check.state != GraphFileState::Current)
+        const LexiconFileCheck check = readLexiconFile(file, kRunFolder / "DB1.txt");
+        arcs = check.lexicon.graph.arcs().size();
+        if (check.state != LexiconFileState::Current)
             state.SkipWithError(check.problem.c_str());
     }
     state.counters["arcs"] = static_cast<double>(arcs);
@@ -165,8 +167,8 @@ void registerBenchmarks() {
     benchmark::RegisterBenchmark("BM_BestMoveSummary", BM_BestMoveSummary)
         ->Iterations(1)
         ->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("BM_GraphBuild", BM_GraphBuild)->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("BM_GraphLoad", BM_GraphLoad)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("BM_LexiconBuild", BM_LexiconBuild)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("BM_LexiconLoad", BM_LexiconLoad)->Unit(benchmark::kMillisecond);
 }
 
 } // namespace

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/move_generator.h"
 
-#include "board/anagrams.h"
 #include "board/play_lines.h"
 #include "board/score_bounds.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <span>
 
 namespace lettriner::board {
 
@@ -82,19 +82,19 @@ public:
     // of the rack and the stretch's board letters: each word that fits the
     // board letters and the cross-checks, with each way of laying blanks.
     void fitWords(const PlayLines& lines, const WalkTask& task,
-                  const std::vector<LetterString>& words) {
+                  std::span<const PackedLetters> words) {
         direction_ = lines.direction;
         line_ = task.line;
         squares_ = lines.lines[static_cast<std::size_t>(task.line)].squares.data();
         const int start = task.start;
         const int length = task.end - task.start + 1;
-        for (const LetterString& word : words) {
-            if (static_cast<int>(word.size()) != length)
+        for (const PackedLetters word : words) {
+            if (length < 8 && (word >> (8 * length)) != 0)
                 continue;
             bool fits = true;
             for (int i = 0; i < length && fits; ++i) {
                 const LineSquare& square = squares_[start + i];
-                const Letter letter = word[static_cast<std::size_t>(i)];
+                const auto letter = static_cast<Letter>((word >> (8 * i)) & 0xFF);
                 fits = square.tile != kEmpty ? letterOf(square.tile) == letter
                                              : ((square.allowed >> letter) & 1u) != 0;
                 word_[static_cast<std::size_t>(start + i)] =
@@ -536,6 +536,34 @@ void forEachAnchor(const PlayLines& lines, Visit visit) {
     }
 }
 
+// The words made of exactly `letters` and `blanks` blanks standing for any
+// letter: one lookup per choice of the blanks' letters.
+std::vector<PackedLetters> anagramsOf(const AnagramIndex& index, const LetterString& letters,
+                                      int blanks) {
+    std::vector<PackedLetters> words;
+    LetterString all = letters;
+    const auto lookUp = [&] {
+        const std::span<const PackedLetters> found = index.wordsOf(sortedKey(packLetters(all)));
+        words.insert(words.end(), found.begin(), found.end());
+    };
+    if (blanks == 0) {
+        lookUp();
+    } else if (blanks == 1) {
+        for (Letter first = 1; first <= kLetterCount; ++first) {
+            all = letters + LetterString{first};
+            lookUp();
+        }
+    } else if (blanks == 2) {
+        for (Letter first = 1; first <= kLetterCount; ++first) {
+            for (Letter second = first; second <= kLetterCount; ++second) {
+                all = letters + LetterString{first, second};
+                lookUp();
+            }
+        }
+    }
+    return words;
+}
+
 // A stretch to walk, ordered by its bound's place key: the highest bound
 // first and, among equal bounds, the move order's first place.
 struct StretchTask {
@@ -546,8 +574,9 @@ struct StretchTask {
 
 } // namespace
 
-void generateMoves(const Board& board, const Rack& rack, const WordGraph& graph,
+void generateMoves(const Board& board, const Rack& rack, const Lexicon& lexicon,
                    const TileValues& values, const MoveFilter& filter, MoveRecorder& recorder) {
+    const WordGraph& graph = lexicon.graph;
     if (rack.empty() || graph.empty())
         return;
     std::array<PlayLines, 2> lines{};
@@ -602,12 +631,13 @@ void generateMoves(const Board& board, const Rack& rack, const WordGraph& graph,
     }
     const auto later = [](const StretchTask& a, const StretchTask& b) { return a.key > b.key; };
     std::make_heap(tasks.begin(), tasks.end(), later);
-    // Words of the whole rack and a stretch's board letters, by those letters.
-    std::vector<std::pair<LetterString, std::vector<LetterString>>> wholeRackWords;
-    std::array<std::uint8_t, kLetterCount + 1> rackCounts{};
+    // The words of the whole rack and a stretch's board letters, by those
+    // letters, each set looked up once.
+    std::vector<std::pair<LetterString, std::vector<PackedLetters>>> wholeRackWords;
+    LetterString rackLetters;
     for (int i = 0; i < rack.size(); ++i) {
         if (rack[i] != kRackBlank)
-            ++rackCounts[rack[i]];
+            rackLetters.push_back(rack[i]);
     }
     while (!tasks.empty()) {
         std::pop_heap(tasks.begin(), tasks.end(), later);
@@ -616,49 +646,45 @@ void generateMoves(const Board& board, const Rack& rack, const WordGraph& graph,
         if (task.key > recorder.thresholdKey())
             break;
         const PlayLines& taskLines = lines[task.task.direction == Direction::Across ? 0 : 1];
-        if (task.open != rack.size() || rack.size() < 2) {
+        const auto length = static_cast<std::size_t>(task.task.end - task.task.start + 1);
+        if (task.open != rack.size() || length < AnagramIndex::kShortest ||
+            length > AnagramIndex::kLongest || rack.blanks() > 2 || lexicon.anagrams.empty()) {
             walker.walk(taskLines, task.task);
             continue;
         }
-        // A stretch laying the whole rack: its word is an anagram of the
-        // rack and its board letters, found once for all such stretches.
+        // A stretch laying the whole rack spells an anagram of the rack and
+        // its board letters: looked up, not walked.
         LetterString boardLetters;
         const auto& squares = taskLines.lines[static_cast<std::size_t>(task.task.line)].squares;
         for (int position = task.task.start; position <= task.task.end; ++position) {
             if (squares[static_cast<std::size_t>(position)].tile != kEmpty)
                 boardLetters.push_back(letterOf(squares[static_cast<std::size_t>(position)].tile));
         }
-        // Through more board letters the GADDAG walk, which starts on them,
-        // is the quicker way; so are sets of letters met only once.
-        if (boardLetters.size() > 1) {
-            walker.walk(taskLines, task.task);
-            continue;
-        }
+        std::sort(boardLetters.begin(), boardLetters.end());
         auto found = std::find_if(wholeRackWords.begin(), wholeRackWords.end(),
                                   [&](const auto& entry) { return entry.first == boardLetters; });
         if (found == wholeRackWords.end()) {
-            std::array<std::uint8_t, kLetterCount + 1> counts = rackCounts;
-            for (const Letter letter : boardLetters)
-                ++counts[letter];
-            wholeRackWords.emplace_back(boardLetters, wordsOfLetters(graph, counts, rack.blanks()));
+            wholeRackWords.emplace_back(boardLetters,
+                                        anagramsOf(lexicon.anagrams, rackLetters + boardLetters,
+                                                   rack.blanks()));
             found = wholeRackWords.end() - 1;
         }
         walker.fitWords(taskLines, task.task, found->second);
     }
 }
 
-std::vector<Move> allMoves(const Board& board, const Rack& rack, const WordGraph& graph,
+std::vector<Move> allMoves(const Board& board, const Rack& rack, const Lexicon& lexicon,
                            const TileValues& values, const MoveFilter& filter) {
     AllMovesRecorder recorder;
-    generateMoves(board, rack, graph, values, filter, recorder);
+    generateMoves(board, rack, lexicon, values, filter, recorder);
     return recorder.takeSorted();
 }
 
-std::vector<Move> bestMoves(const Board& board, const Rack& rack, const WordGraph& graph,
+std::vector<Move> bestMoves(const Board& board, const Rack& rack, const Lexicon& lexicon,
                             const TileValues& values, std::size_t count,
                             const MoveFilter& filter) {
     BestMovesRecorder recorder(count);
-    generateMoves(board, rack, graph, values, filter, recorder);
+    generateMoves(board, rack, lexicon, values, filter, recorder);
     return recorder.takeSorted();
 }
 

@@ -19,7 +19,7 @@
 #include "board/move_recorder.h"
 #include "board/rack.h"
 #include "board/tile_values.h"
-#include "board/word_graph.h"
+#include "board/lexicon.h"
 
 #include <climits>
 #include <cstddef>
@@ -37,17 +37,17 @@ struct MoveFilter {
 
 // Calls recorder.record() once for every legal move that passes the filter
 // (and may leave out moves scoring below recorder.threshold()).
-void generateMoves(const Board& board, const Rack& rack, const WordGraph& graph,
+void generateMoves(const Board& board, const Rack& rack, const Lexicon& lexicon,
                    const TileValues& values, const MoveFilter& filter, MoveRecorder& recorder);
 
 // Every legal move passing the filter, in the move order.
 [[nodiscard]] std::vector<Move> allMoves(const Board& board, const Rack& rack,
-                                         const WordGraph& graph, const TileValues& values,
+                                         const Lexicon& lexicon, const TileValues& values,
                                          const MoveFilter& filter = {});
 
 // The first `count` moves of allMoves(), found without generating them all.
 [[nodiscard]] std::vector<Move> bestMoves(const Board& board, const Rack& rack,
-                                          const WordGraph& graph, const TileValues& values,
+                                          const Lexicon& lexicon, const TileValues& values,
                                           std::size_t count, const MoveFilter& filter = {});
 
 } // namespace lettriner::board

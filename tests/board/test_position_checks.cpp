@@ -3,6 +3,7 @@
 // tiles cut off from the centre, more tiles than the German set holds.
 
 #include "board/position_checks.h"
+#include "board/lexicon.h"
 #include "board/position_text.h"
 #include "board_test_support.h"
 
@@ -18,7 +19,7 @@ std::vector<std::string> warningsFor(std::vector<std::string> rows, const char* 
     rows.resize(15);
     for (std::string& row : rows)
         row.resize(15, '.');
-    const WordGraph graph = buildWordGraph(testing::lettersOf({"HAUS", "SEE", "OHNE"}));
+    const WordGraph graph = buildLexicon(testing::lettersOf({"HAUS", "SEE", "OHNE"})).graph;
     return warningTexts(checkPosition(testing::boardOf(rows), testing::rackOf(rack), graph));
 }
 

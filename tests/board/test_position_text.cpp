@@ -165,7 +165,7 @@ TEST(Rack, ReadsLettersAndBlanks) {
 
 TEST(PositionText, RandomPositionsRoundTripThroughBothFormats) {
     const std::vector<LetterString> words = testing::smallLexicon(5);
-    const WordGraph graph = buildWordGraph(words);
+    const Lexicon lexicon = buildLexicon(words);
     std::mt19937 random(5);
     Position position;
     for (int turn = 0; turn < 60; ++turn) {
@@ -176,7 +176,7 @@ TEST(PositionText, RandomPositionsRoundTripThroughBothFormats) {
         const BoardRead file = readBoardFile(writeBoardFile(position.board));
         ASSERT_EQ(file.error, "");
         EXPECT_EQ(file.board, position.board);
-        const std::vector<Move> moves = allMoves(position.board, position.rack, graph, testing::germanValues());
+        const std::vector<Move> moves = allMoves(position.board, position.rack, lexicon, testing::germanValues());
         if (moves.empty())
             position.board = Board{};
         else

@@ -3,16 +3,19 @@
 // and every GADDAG string of them), takes from the list exactly the entries
 // a board can hold, and cross-checks agree with a plain twin.
 
+#include "board/anagram_index.h"
 #include "board/cross_checks.h"
 #include "board/move_generator.h"
 #include "board/playable_words.h"
 #include "board_test_support.h"
 #include "reference_generator.h"
 
+#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace lettriner::board {
@@ -116,6 +119,48 @@ TEST(ValidateWordGraph, RefusesWhatCouldLeadOutside) {
         EXPECT_EQ(validateWordGraph(arcs), message);
 }
 
+TEST(AnagramIndex, GivesExactlyTheWordsOfALetterSet) {
+    const std::vector<LetterString> words = {lettersOf("GARTENS"), lettersOf("GRASTEN"),
+                                             lettersOf("ANREGST"), lettersOf("ANREGSTE"),
+                                             lettersOf("HAUS"), lettersOf("DONAUDAMPF"),
+                                             lettersOf("GARTENS")};
+    const AnagramIndex index = buildAnagramIndex(words);
+    EXPECT_EQ(AnagramIndex::validate(index.words(), index.slots()), "");
+    const auto wordsOf = [&](std::string_view letters) {
+        std::vector<LetterString> found;
+        for (const PackedLetters word : index.wordsOf(sortedKey(packLetters(lettersOf(letters))))) {
+            LetterString text;
+            for (int i = 0; i < 8 && ((word >> (8 * i)) & 0xFF) != 0; ++i)
+                text.push_back(static_cast<Letter>((word >> (8 * i)) & 0xFF));
+            found.push_back(text);
+        }
+        std::sort(found.begin(), found.end());
+        return found;
+    };
+    EXPECT_EQ(wordsOf("ENTSAGR"), lettersOf(std::vector<std::string>{"ANREGST", "GARTENS", "GRASTEN"}));
+    EXPECT_EQ(wordsOf("EENTSAGR"), lettersOf(std::vector<std::string>{"ANREGSTE"}));
+    EXPECT_TRUE(wordsOf("HAUS").empty()); // shorter than seven: not indexed
+    EXPECT_TRUE(wordsOf("ENTSAGX").empty());
+    EXPECT_TRUE(buildAnagramIndex({}).empty());
+    EXPECT_TRUE(AnagramIndex{}.wordsOf(1).empty());
+}
+
+TEST(AnagramIndex, ValidateRefusesTablesThatCouldLeadAstray) {
+    // clang-format off
+    const std::vector<std::tuple<std::vector<PackedLetters>, std::vector<std::uint32_t>, std::string>> cases = {
+        {{}, {}, ""},
+        {{0x01}, {0, 1}, ""},
+        {{0x1E}, {0, 1}, "the anagram index holds a letter outside the alphabet"},
+        {{0x01}, {}, "the anagram index has words but no table"},
+        {{0x01}, {0, 1, 0}, "the anagram index's table has a size that is not a power of two"},
+        {{0x01}, {0, 2}, "the anagram index's table points past its words"},
+        {{0x01}, {1, 1}, "the anagram index's table is full"},
+    };
+    // clang-format on
+    for (const auto& [words, slots, message] : cases)
+        EXPECT_EQ(AnagramIndex::validate(words, slots), message);
+}
+
 TEST(CrossChecks, AgreeWithTryingEveryLetter) {
     const std::vector<LetterString> words = testing::smallLexicon(4);
     const WordGraph graph = buildWordGraph(words);
@@ -153,7 +198,7 @@ TEST(CrossChecks, AgreeWithTryingEveryLetter) {
             }
         }
         const std::vector<Move> moves =
-            allMoves(board, testing::randomRack(random, 1), graph, values);
+            allMoves(board, testing::randomRack(random, 1), Lexicon{graph, {}}, values);
         if (moves.empty())
             board = Board{};
         else
