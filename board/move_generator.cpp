@@ -2,6 +2,7 @@
 #include "board/move_generator.h"
 
 #include "board/play_lines.h"
+#include "board/premium_layout.h"
 #include "board/score_bounds.h"
 
 #include <algorithm>
@@ -105,7 +106,73 @@ public:
         }
     }
 
+    // Every move on an empty board: each word the rack spells, found once by
+    // walking the DAWG, laid across row 8 at every column that puts one of
+    // its letters on the centre. (The GADDAG would find each word once for
+    // every letter that can lie on the centre.)
+    void walkEmptyBoard(const PlayLines& lines, std::uint32_t dawgRoot) {
+        direction_ = Direction::Across;
+        line_ = kCentre;
+        squares_ = lines.lines[static_cast<std::size_t>(kCentre)].squares.data();
+        if (dawgRoot != 0)
+            spell(0, dawgRoot);
+    }
+
 private:
+    void spell(int length, std::uint32_t node) {
+        const LetterMask allowed = squares_[kCentre].allowed; // all letters but the forbidden
+        for (std::uint32_t i = node;; ++i) {
+            const Arc arc = arcs_[i];
+            const Letter letter = arcLetter(arc);
+            if ((allowed >> letter) & 1u) {
+                if (counts_[letter] != 0) {
+                    --counts_[letter];
+                    spelled_[static_cast<std::size_t>(length)] = letter;
+                    spelledOn(length + 1, arc);
+                    ++counts_[letter];
+                }
+                if (blanks_ != 0) {
+                    --blanks_;
+                    spelled_[static_cast<std::size_t>(length)] = static_cast<Tile>(letter | kBlankBit);
+                    spelledOn(length + 1, arc);
+                    ++blanks_;
+                }
+            }
+            if (arcIsLast(arc))
+                break;
+        }
+    }
+
+    void spelledOn(int length, Arc arc) {
+        if (arcAccepts(arc) && length >= 2) {
+            for (int first = std::max(0, kCentre - length + 1); first <= kCentre; ++first)
+                recordSpelled(first, length);
+        }
+        if (length < rackSize_ && arcChild(arc) != 0)
+            spell(length, arcChild(arc));
+    }
+
+    void recordSpelled(int first, int length) {
+        mainSum_ = 0;
+        wordMultiplier_ = 1;
+        crossSum_ = 0;
+        laid_ = length;
+        laidPositions_ = 0;
+        for (int i = 0; i < length; ++i) {
+            const LineSquare& square = squares_[first + i];
+            const Tile tile = spelled_[static_cast<std::size_t>(i)];
+            word_[static_cast<std::size_t>(first + i)] = tile;
+            mainSum_ += (isBlank(tile) ? 0 : values_[letterOf(tile)]) * square.letterMultiplier;
+            wordMultiplier_ *= square.wordMultiplier;
+            laidPositions_ = static_cast<std::uint16_t>(laidPositions_ | (1u << (first + i)));
+        }
+        record(first, first + length - 1);
+        laid_ = 0;
+        laidPositions_ = 0;
+        mainSum_ = 0;
+        wordMultiplier_ = 1;
+    }
+
     // Lays the fitted word's open squares from `position` on, each with a
     // real tile while the rack has one and with a blank while it has one,
     // then scores and records every complete way.
@@ -512,6 +579,7 @@ private:
     std::uint64_t stretchKey_ = 0;
 
     std::array<Tile, kBoardSize> word_{};
+    std::array<Tile, kRackSize> spelled_{}; // a word spelled on an empty board
     std::uint16_t laidPositions_ = 0;
     int laid_ = 0;
     int start_ = 0;
@@ -589,6 +657,10 @@ void generateMoves(const Board& board, const Rack& rack, const Lexicon& lexicon,
     const RackValues rackTiles = rackValues(rack, values);
     const LetterMask available = rack.blanks() != 0 ? kAllLetters : rack.letters();
 
+    if (!recorder.raisesThreshold() && emptyBoard) {
+        walker.walkEmptyBoard(lines[0], graph.dawgRoot());
+        return;
+    }
     if (!recorder.raisesThreshold()) {
         // Every move: one walk per anchor, skipping anchors that cannot
         // reach the minimum score.
