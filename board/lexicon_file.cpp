@@ -4,6 +4,7 @@
 #include "board/content_hash.h"
 
 #include <array>
+#include <bit>
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
@@ -25,11 +26,11 @@ constexpr std::size_t kChecksumAt = 72;
 constexpr unsigned kLastBit = 2;
 constexpr unsigned kAcceptsBit = 1;
 constexpr unsigned kNextBit = 0x80;
-// A child index word below kFarBit is the zigzag distance from the arc to
-// its child; otherwise its low 15 bits are the index's high bits, the far
-// byte the low 8.
-constexpr std::uint32_t kNearLimit = 1u << 14;
-constexpr std::uint32_t kFarBit = 0x8000;
+// A child index word, little-endian: with its lowest bit clear, the rest is
+// the signed distance from the arc to its child; with it set, the rest is
+// the child index's high 15 bits, the far byte its low 8.
+constexpr std::int64_t kNearLimit = std::int64_t{1} << 14;
+constexpr std::uint32_t kFarFlag = 1;
 
 void put32(std::string& out, std::uint32_t value) {
     for (int i = 0; i < 4; ++i)
@@ -72,17 +73,15 @@ void encodeArc(ArcParts& parts, Arc arc, std::uint32_t index) {
     if (next != 0)
         return;
     const std::int64_t distance = std::int64_t{child} - std::int64_t{index};
-    const std::uint64_t zigzag = distance >= 0 ? std::uint64_t(distance) << 1
-                                               : (std::uint64_t(-distance) << 1) - 1;
     std::uint32_t word = 0;
-    if (child != 0 && zigzag < 2 * kNearLimit) {
-        word = static_cast<std::uint32_t>(zigzag);
+    if (child != 0 && distance >= -kNearLimit && distance < kNearLimit) {
+        word = static_cast<std::uint32_t>(distance * 2) & 0xFFFFu;
     } else {
-        word = kFarBit | (child >> 8);
+        word = ((child >> 8) << 1) | kFarFlag;
         parts.farBytes += static_cast<char>(child & 0xFF);
     }
-    parts.indexWords += static_cast<char>(word >> 8);
     parts.indexWords += static_cast<char>(word & 0xFF);
+    parts.indexWords += static_cast<char>(word >> 8);
 }
 
 // What an arc's first byte says, as the arc holds it (child bits zero),
@@ -105,51 +104,60 @@ constexpr std::array<std::uint32_t, 256> firstByteTable() {
 }
 constexpr std::array<std::uint32_t, 256> kFirstBytes = firstByteTable();
 
-// Decodes arcs 2.. from the three parts and checks on the way what makes the
-// graph safe to walk (validateWordGraph): children inside the graph, letters
-// in the alphabet, the last arc ending its node; and that the parts hold
-// exactly the words and bytes the first bytes ask for. Reads past a part's
-// end are clamped to its last element (the counts then fail). No branch
-// depends on the data: which form an arc takes is as good as random, and a
-// mispredicted branch costs more than computing every form.
-bool decodeArcs(const unsigned char* firstBytes, const unsigned char* indexWords,
-                std::uint32_t indexCount, const unsigned char* farBytes, std::uint32_t farCount,
-                Arc* arcs, std::uint32_t arcCount) {
-    static constexpr unsigned char kNothing[2] = {0, 0};
-    if (indexCount == 0)
-        indexWords = kNothing;
-    if (farCount == 0)
-        farBytes = kNothing;
-    const std::uint32_t lastIndex = indexCount == 0 ? 0 : indexCount - 1;
-    const std::uint32_t lastFar = farCount == 0 ? 0 : farCount - 1;
-    std::uint32_t indexAt = 0;
-    std::uint32_t farAt = 0;
-    std::uint32_t flags = 0;
+// How many first bytes are valid and how many of them leave the child to an
+// index word: counted before decoding, so the decoding loop can trust the
+// parts' sizes. Loops without branches on the data, which compilers
+// vectorise.
+struct FirstByteCounts {
+    std::uint32_t invalid = 0;
+    std::uint32_t indexed = 0;
+};
+FirstByteCounts countFirstBytes(const unsigned char* firstBytes, std::size_t count) {
+    FirstByteCounts counts;
+    for (std::size_t i = 0; i < count; ++i) {
+        const unsigned byte = firstBytes[i];
+        counts.invalid += (byte & 0x7Fu) >= 4 * (kLetterCount + 1) ? 1u : 0u;
+        counts.indexed += (byte & kNextBit) == 0 ? 1u : 0u;
+    }
+    return counts;
+}
+std::uint32_t countFar(const unsigned char* indexWords, std::size_t count) {
+    std::uint32_t far = 0;
+    for (std::size_t i = 0; i < count; ++i)
+        far += indexWords[2 * i] & kFarFlag;
+    return far;
+}
+
+// Decodes arcs 2.. from the three parts, whose sizes countFirstBytes and
+// countFar have confirmed, and returns the highest child index met, which
+// must lie inside the graph. No branch depends on the data: which form an
+// arc takes is as good as random, and a mispredicted branch costs more than
+// computing every form.
+[[gnu::noinline]] std::uint32_t decodeArcs(const unsigned char* firstBytes,
+                                           const unsigned char* indexWords,
+                                           const unsigned char* farBytes, Arc* arcs,
+                                           std::uint32_t arcCount) {
     std::uint32_t highestChild = 0;
-    Arc arc = 0;
     for (std::uint32_t i = 2; i < arcCount; ++i) {
         const std::uint32_t first = kFirstBytes[firstBytes[i - 2]];
-        const std::uint32_t wordAt = indexAt < lastIndex ? indexAt : lastIndex;
-        const std::uint32_t word =
-            (std::uint32_t{indexWords[2 * wordAt]} << 8) | indexWords[2 * wordAt + 1];
-        const std::uint32_t low = farBytes[farAt < lastFar ? farAt : lastFar];
-        const std::uint32_t nextMask = 0u - (first & kChildIsNext);
-        const std::uint32_t far = (word >> 15) & ~nextMask;
+        const std::uint32_t indexed = (first & kChildIsNext) ^ 1u;
+        const std::uint32_t word = indexWords[0] | (std::uint32_t{indexWords[1]} << 8);
+        const std::uint32_t far = word & indexed & kFarFlag;
+        const std::uint32_t nearChild =
+            i + static_cast<std::uint32_t>(static_cast<std::int16_t>(word) >> 1);
+        const std::uint32_t farChild = ((word >> 1) << 8) | *farBytes;
         const std::uint32_t farMask = 0u - far;
-        const std::uint32_t farChild = ((word & 0x7FFFu) << 8) | low;
-        const std::uint32_t nearChild = i + ((word >> 1) ^ (0u - (word & 1u)));
+        const std::uint32_t indexMask = 0u - indexed;
         const std::uint32_t indexChild = (farChild & farMask) | (nearChild & ~farMask);
-        const std::uint32_t child = ((i + 1) & nextMask) | (indexChild & ~nextMask);
-        indexAt += 1u - (first & kChildIsNext);
-        farAt += far;
-        flags |= first;
+        const std::uint32_t child = (indexChild & indexMask) | ((i + 1) & ~indexMask);
+        // Past a part's last element the pointers stay put: the counts said
+        // how many elements the arcs take.
+        indexWords += 2 * indexed;
+        farBytes += far;
         highestChild = child > highestChild ? child : highestChild;
-        arc = (first & ~(kChildIsNext | kInvalid)) | child;
-        arcs[i] = arc;
+        arcs[i] = (first & ~(kChildIsNext | kInvalid)) | child;
     }
-    const bool lastEnds = arcCount == 2 || arcIsLast(arc);
-    return (flags & kInvalid) == 0 && highestChild < arcCount && lastEnds &&
-           indexAt == indexCount && farAt == farCount;
+    return highestChild;
 }
 
 } // namespace
@@ -251,24 +259,47 @@ DecodedLexicon decodeLexiconFile(std::string_view bytes) {
         result.error = "the file's roots point outside the graph";
         return result;
     }
-    std::unique_ptr<Arc[]> arcs(new Arc[arcCount]);
-    arcs[kDawgRootArc] = dawgRoot;
-    arcs[kGaddagRootArc] = gaddagRoot;
+    // The decoder reads an index word and a far byte for every arc, also
+    // past the last it uses: three bytes must follow the far part. They are
+    // the anagram index's; without one, a copy of the file brings padding.
+    const std::size_t farEnd = kHeaderSize + (arcCount - 2) + 2 * std::size_t{indexCount} + farCount;
+    std::string padded;
+    if (bytes.size() - farEnd < 3) {
+        padded.reserve(bytes.size() + 3);
+        padded.append(bytes);
+        padded.append(3, '\0');
+        in = reinterpret_cast<const unsigned char*>(padded.data());
+    }
     const unsigned char* firstBytes = in + kHeaderSize;
     const unsigned char* indexWords = firstBytes + (arcCount - 2);
     const unsigned char* farBytes = indexWords + 2 * std::size_t{indexCount};
-    if (!decodeArcs(firstBytes, indexWords, indexCount, farBytes, farCount, arcs.get(),
-                    arcCount)) {
+    const FirstByteCounts counts = countFirstBytes(firstBytes, arcCount - 2);
+    if (counts.invalid != 0 || counts.indexed != indexCount ||
+        countFar(indexWords, indexCount) != farCount) {
+        result.error = "the file's graph is damaged";
+        return result;
+    }
+    std::unique_ptr<Arc[]> arcs(new Arc[arcCount]);
+    arcs[kDawgRootArc] = dawgRoot;
+    arcs[kGaddagRootArc] = gaddagRoot;
+    const std::uint32_t highestChild = decodeArcs(firstBytes, indexWords, farBytes, arcs.get(), arcCount);
+    if (highestChild >= arcCount || (arcCount > 2 && !arcIsLast(arcs[arcCount - 1]))) {
         result.error = "the file's graph is damaged";
         return result;
     }
     const unsigned char* anagramPart = farBytes + farCount;
     std::vector<PackedLetters> words(anagramWords);
-    for (std::size_t i = 0; i < words.size(); ++i)
-        words[i] = get64(anagramPart + 8 * i);
     std::vector<std::uint32_t> slots(anagramSlots);
-    for (std::size_t i = 0; i < slots.size(); ++i)
-        slots[i] = get32(anagramPart + 8 * std::size_t{anagramWords} + 4 * i);
+    const unsigned char* slotPart = anagramPart + 8 * std::size_t{anagramWords};
+    if constexpr (std::endian::native == std::endian::little) {
+        std::memcpy(words.data(), anagramPart, 8 * words.size());
+        std::memcpy(slots.data(), slotPart, 4 * slots.size());
+    } else {
+        for (std::size_t i = 0; i < words.size(); ++i)
+            words[i] = get64(anagramPart + 8 * i);
+        for (std::size_t i = 0; i < slots.size(); ++i)
+            slots[i] = get32(slotPart + 4 * i);
+    }
     if (std::string problem = AnagramIndex::validate(words, slots); !problem.empty()) {
         result.error = "the file is damaged: " + problem;
         return result;
