@@ -87,7 +87,56 @@ std::string length(Options& options, std::string_view name, std::string_view val
     return {};
 }
 
-constexpr std::array<ValueOption, 12> kValueOptions = {{
+std::string moveCount(Options& options, std::string_view name, std::string_view value) {
+    std::size_t number = 0;
+    const auto [end, failure] = std::from_chars(value.data(), value.data() + value.size(), number);
+    if (value.empty() || failure != std::errc() || end != value.data() + value.size() ||
+        number == 0) {
+        std::string error = "option ";
+        error += name;
+        error += " takes a whole number from 1, not ";
+        return error + quotedText(value);
+    }
+    options.moves = number;
+    return {};
+}
+
+// The options a board search does not take, and the ones only it takes.
+std::string boardConflict(const Options& options) {
+    if (options.boardFile && options.cgp)
+        return "options --board and --cgp exclude each other";
+    const std::pair<bool, const char*> wordSearchOnly[] = {
+        {options.blanks.has_value(), "--blanks"},
+        {!options.pattern.empty(), "--pattern"},
+        {!options.starts.empty(), "--starts"},
+        {!options.ends.empty(), "--ends"},
+        {options.minLength.has_value(), "--min-length"},
+        {options.maxLength.has_value(), "--max-length"},
+        {!options.checkWords.empty(), "--check"},
+        {options.extra.has_value(), "--extra"},
+        {options.fieldSize.has_value(), "--field-size"},
+    };
+    const std::pair<bool, const char*> boardOnly[] = {
+        {options.moves.has_value(), "--moves"},
+        {options.allMoves, "--all"},
+    };
+    if (options.onBoard()) {
+        for (const auto& [given, name] : wordSearchOnly) {
+            if (given)
+                return std::string("option ") + name + " belongs to the word search, not a board";
+        }
+        if (options.moves && options.allMoves)
+            return "options --moves and --all exclude each other";
+        return {};
+    }
+    for (const auto& [given, name] : boardOnly) {
+        if (given)
+            return std::string("option ") + name + " needs a position: --board FILE or --cgp TEXT";
+    }
+    return {};
+}
+
+constexpr std::array<ValueOption, 15> kValueOptions = {{
     {"--rack", &fieldText<&Options::rack>},
     {"--mandatory", &fieldText<&Options::mandatory>},
     {"--forbidden", &fieldText<&Options::forbidden>},
@@ -100,6 +149,9 @@ constexpr std::array<ValueOption, 12> kValueOptions = {{
     {"--ends", &letters<&Options::ends, false>},
     {"--min-length", &length<&Options::minLength>},
     {"--max-length", &length<&Options::maxLength>},
+    {"--board", &fieldText<&Options::boardFile>},
+    {"--cgp", &fieldText<&Options::cgp>},
+    {"--moves", &moveCount},
 }};
 
 } // namespace
@@ -123,6 +175,10 @@ ParseResult parseOptions(const std::vector<std::string>& arguments) {
         }
         if (argument == "--version") {
             options.version = true;
+            continue;
+        }
+        if (argument == "--all") {
+            options.allMoves = true;
             continue;
         }
         if (argument == "--check") {
@@ -179,6 +235,7 @@ ParseResult parseOptions(const std::vector<std::string>& arguments) {
             return result;
         }
     }
+    result.error = boardConflict(options);
     return result;
 }
 
@@ -213,6 +270,31 @@ std::string usageText() {
            "\n"
            "  --check WORD...    tells for each WORD whether it is in the word list\n"
            "                     (STRASSE also finds STRAßE), with its value\n"
+           "\n"
+           "The best moves on a board (15x15, premium squares, cross words, blanks, the\n"
+           "50-point bonus for all seven tiles) instead of the words of a rack:\n"
+           "  --board FILE       the position as 15 lines of 15 characters: '.' an empty\n"
+           "                     square, a capital letter a tile, a small letter a blank\n"
+           "                     standing for it (UTF-8 or Windows-1252); '-' reads it\n"
+           "                     from standard input\n"
+           "  --cgp POSITION     the position in the open format of board-game engines:\n"
+           "                     the 15 rows joined by '/', a number for a run of empty\n"
+           "                     squares, then a space and the rack before the next '/'\n"
+           "                     ('?' a blank); further fields are ignored. The empty\n"
+           "                     board with the rack ENTSAGR:\n"
+           "                     '15/15/15/15/15/15/15/15/15/15/15/15/15/15/15 ENTSAGR/ 0/0 0'\n"
+           "  --rack TILES       up to 7 tiles, '?' a blank; overrides the position's rack\n"
+           "  --moves N          the best N moves (default 20)\n"
+           "  --all              every legal move\n"
+           "  --mandatory TEXT   only moves laying all of these letters\n"
+           "  --forbidden TEXT   only moves laying none of these letters\n"
+           "  --min N            only moves worth at least N points\n"
+           "Columns: Zug (8D across from row 8, column D; D8 down), Wort (blanks in small\n"
+           "letters), Punkte, Gelegt (the tiles laid, in word order), Rest (the tiles left,\n"
+           "'?' a blank), Querwörter (the cross words formed). Equal scores are listed by\n"
+           "row, column, across before down, then word. Board words the list lacks, tiles\n"
+           "not joined to the centre and more tiles of a letter than the set holds are\n"
+           "named on standard error; the search runs all the same.\n"
            "  -C DIR             change to DIR first\n"
            "  --tsv              tab-separated output for scripts\n"
            "  --json             JSON output for scripts\n"
@@ -224,8 +306,9 @@ std::string usageText() {
            "on standard error; no file is ever created.\n"
            "\n"
            "Exit status: 0 on success; 1 when the folder cannot be entered or holds no\n"
-           "DB1.txt, or a checked word is not in the list; 2 on a usage error; 3 when\n"
-           "memory runs out or a list had to be cut short for it.\n";
+           "DB1.txt, or a checked word is not in the list; 2 on a usage error (a position\n"
+           "or rack that cannot be read included); 3 when memory runs out or a list had to\n"
+           "be cut short for it.\n";
 }
 
 } // namespace lettriner::cli

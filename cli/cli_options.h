@@ -28,6 +28,11 @@ struct Options {
     std::optional<std::uint32_t> minLength;
     std::optional<std::uint32_t> maxLength;
     std::vector<std::string> checkWords; // --check
+    // The board search: a board file ("-" standard input) or a CGP position.
+    std::optional<std::string> boardFile;
+    std::optional<std::string> cgp;
+    std::optional<std::size_t> moves; // --moves N
+    bool allMoves = false;            // --all
     bool tsv = false;
     bool json = false;
     bool help = false;
@@ -38,6 +43,8 @@ struct Options {
         return blanks || !pattern.empty() || !starts.empty() || !ends.empty() || minLength ||
                maxLength;
     }
+    // A position given: the board search runs instead of the word search.
+    [[nodiscard]] bool onBoard() const { return boardFile || cgp; }
 };
 
 struct ParseResult {
@@ -46,8 +53,9 @@ struct ParseResult {
 };
 
 // Accepts "--rack TEXT" and "--rack=TEXT" (likewise for every option with a
-// value), "-C DIR", "-CDIR", "--check WORD...", "--tsv", "--json", "--help",
-// "-h" and "--version".
+// value), "-C DIR", "-CDIR", "--check WORD...", "--tsv", "--json", "--all",
+// "--help", "-h" and "--version". Options of the word search given with a
+// position, or of the board search without one, are usage errors.
 [[nodiscard]] ParseResult parseOptions(const std::vector<std::string>& arguments);
 
 [[nodiscard]] std::string usageText();

@@ -63,19 +63,22 @@ void warnAboutLetterFiles(std::vector<std::string>& messages) {
     }
 }
 
-} // namespace
+// Changes to the folder whose DB1.txt is read; its state, or a failure.
+struct DataFolder {
+    FileState listState = FileState::Absent;
+    LoadFailure failure = LoadFailure::None;
+};
 
-LoadedData loadDataFiles(const std::optional<std::string>& directory,
-                         const std::optional<fs::path>& installed) {
-    LoadedData data;
+DataFolder enterDataFolder(const std::optional<std::string>& directory,
+                           const std::optional<fs::path>& installed,
+                           std::vector<std::string>& messages) {
     std::error_code error;
     if (directory) {
         fs::current_path(*directory, error);
         if (error) {
-            data.failure = LoadFailure::CannotEnter;
-            data.messages.push_back("cannot change to " + messageText(*directory) + ": " +
-                                    error.message());
-            return data;
+            messages.push_back("cannot change to " + messageText(*directory) + ": " +
+                               error.message());
+            return {FileState::Absent, LoadFailure::CannotEnter};
         }
     }
     FileState state = fileState("DB1.txt");
@@ -83,35 +86,82 @@ LoadedData loadDataFiles(const std::optional<std::string>& directory,
         fileState(*installed / "DB1.txt") == FileState::Readable) {
         // The current folder's empty list would shadow the installed one.
         if (state != FileState::Absent)
-            data.messages.push_back(*uselessList(state, ".") + "; using the list in " +
-                                    folderName(*installed));
+            messages.push_back(*uselessList(state, ".") + "; using the list in " +
+                               folderName(*installed));
         fs::current_path(*installed, error);
         state = error ? FileState::Absent : fileState("DB1.txt");
     }
     if (state == FileState::Absent) {
-        data.failure = LoadFailure::NoWordList;
-        data.messages.push_back(*uselessList(state, ".") + (directory ? "" : "; use -C DIR"));
-        return data;
+        messages.push_back(*uselessList(state, ".") + (directory ? "" : "; use -C DIR"));
+        return {state, LoadFailure::NoWordList};
     }
+    return {state, LoadFailure::None};
+}
 
-    const WordDatabase database = DatenbankEinlesen("DB1.txt", {}, WhenAbsent::LeaveAbsent);
-    const bool read = !database.empty();
-    if (state == FileState::Readable && !read) {
-        data.failure = LoadFailure::OutOfMemory;
-        data.messages.push_back("out of memory: DB1.txt in " + folderName(".") + " does not fit");
-        return data;
+// The list in the current folder, with a warning when it holds no words;
+// nullopt when it was read but memory is too short for it.
+std::optional<WordDatabase> readWordList(FileState state, std::vector<std::string>& messages) {
+    WordDatabase database = DatenbankEinlesen("DB1.txt", {}, WhenAbsent::LeaveAbsent);
+    if (state == FileState::Readable && database.empty()) {
+        messages.push_back("out of memory: DB1.txt in " + folderName(".") + " does not fit");
+        return std::nullopt;
     }
     if (state != FileState::Readable)
-        data.messages.push_back(*uselessList(state, "."));
+        messages.push_back(*uselessList(state, "."));
     else if (!holdsWords(database))
-        data.messages.push_back(*uselessList(FileState::Empty, "."));
+        messages.push_back(*uselessList(FileState::Empty, "."));
+    return database;
+}
+
+} // namespace
+
+LoadedData loadDataFiles(const std::optional<std::string>& directory,
+                         const std::optional<fs::path>& installed) {
+    LoadedData data;
+    const DataFolder folder = enterDataFolder(directory, installed, data.messages);
+    data.failure = folder.failure;
+    if (data.failure != LoadFailure::None)
+        return data;
+    const std::optional<WordDatabase> database = readWordList(folder.listState, data.messages);
+    if (!database) {
+        data.failure = LoadFailure::OutOfMemory;
+        return data;
+    }
     warnAboutLetterFiles(data.messages);
-    data.words = PreparedWords(database, BewertungsFeldLaden({}, WhenAbsent::LeaveAbsent));
-    if (read && data.words.size() == 0) {
+    data.words = PreparedWords(*database, BewertungsFeldLaden({}, WhenAbsent::LeaveAbsent));
+    if (!database->empty() && data.words.size() == 0) {
         data.failure = LoadFailure::OutOfMemory;
         data.messages.insert(data.messages.begin(), "out of memory: the words of DB1.txt in " +
                                                         folderName(".") + " do not fit");
     }
+    return data;
+}
+
+LoadedBoardData loadBoardData(const std::optional<std::string>& directory,
+                              const std::optional<fs::path>& installed) {
+    LoadedBoardData data;
+    const DataFolder folder = enterDataFolder(directory, installed, data.messages);
+    data.failure = folder.failure;
+    if (data.failure != LoadFailure::None)
+        return data;
+    // A current lexicon file spares reading the list at all.
+    board::LexiconFileCheck check = board::readLexiconFile(board::kLexiconFileName, "DB1.txt");
+    if (check.state == board::LexiconFileState::Current) {
+        data.lexicon = std::move(check.lexicon);
+    } else {
+        const std::optional<WordDatabase> database = readWordList(folder.listState, data.messages);
+        if (!database) {
+            data.failure = LoadFailure::OutOfMemory;
+            return data;
+        }
+        board::LoadedLexicon loaded =
+            board::loadLexicon(board::kLexiconFileName, "DB1.txt", *database);
+        if (!loaded.note.empty())
+            data.messages.push_back(loaded.note);
+        data.lexicon = std::move(loaded.lexicon);
+    }
+    warnAboutLetterFiles(data.messages);
+    data.values = board::TileValues(BewertungsFeldLaden({}, WhenAbsent::LeaveAbsent));
     return data;
 }
 

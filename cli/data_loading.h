@@ -6,6 +6,8 @@
 // list is empty or unreadable). Every file that is missing, empty or
 // unreadable is named in a warning, and no file is ever created.
 
+#include "board/lexicon_loading.h"
+#include "board/tile_values.h"
 #include "engine/prepared_words.h"
 
 #include <filesystem>
@@ -34,5 +36,18 @@ struct LoadedData {
 // `installed` is the installed data folder, if this program has one.
 [[nodiscard]] LoadedData loadDataFiles(const std::optional<std::string>& directory,
                                        const std::optional<std::filesystem::path>& installed);
+
+// What the board search reads: the lexicon (DB1.lex when it was built from
+// DB1.txt as it is, else built from DB1.txt in memory, which standard error
+// then says) and the letter values as whole points.
+struct LoadedBoardData {
+    board::Lexicon lexicon;
+    board::TileValues values;
+    LoadFailure failure = LoadFailure::None;
+    std::vector<std::string> messages; // as in LoadedData
+};
+
+[[nodiscard]] LoadedBoardData loadBoardData(const std::optional<std::string>& directory,
+                                            const std::optional<std::filesystem::path>& installed);
 
 } // namespace lettriner::cli

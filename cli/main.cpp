@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // lettriner-cli: the search of the Lettriner window, without a window.
 
+#include "board/move_generator.h"
+#include "board/position_checks.h"
+#include "cli/board_query.h"
 #include "cli/cli_options.h"
 #include "cli/cli_output.h"
 #include "cli/data_folder.h"
 #include "cli/data_loading.h"
+#include "cli/move_output.h"
 #include "data/program_folder.h"
 #include "data/text_case.h"
 #include "data/utf8.h"
@@ -68,6 +72,34 @@ int searchAndWrite(const lettriner::cli::Options& options, const lettriner::Prep
     return written ? kSuccess : kFailed;
 }
 
+// The best moves on a board, or every move.
+int searchBoard(const lettriner::cli::Options& options, lettriner::cli::Format format) {
+    using namespace lettriner;
+    const cli::BoardQuery query = cli::boardQuery(options);
+    if (!query.error.empty()) {
+        tell(query.error);
+        return kUsageError;
+    }
+    const cli::LoadedBoardData data =
+        cli::loadBoardData(options.directory, cli::installedDataFolder(programFolder()));
+    for (const std::string& message : data.messages)
+        tell(message);
+    if (data.failure != cli::LoadFailure::None)
+        return data.failure == cli::LoadFailure::OutOfMemory ? kOutOfMemory : kFailed;
+    const board::Position& position = query.position;
+    for (const std::string& warning : board::warningTexts(
+             board::checkPosition(position.board, position.rack, data.lexicon.graph)))
+        tell("warning: " + warning);
+    const std::vector<board::Move> moves =
+        query.count ? board::bestMoves(position.board, position.rack, data.lexicon, data.values,
+                                       *query.count, query.filter)
+                    : board::allMoves(position.board, position.rack, data.lexicon, data.values,
+                                      query.filter);
+    cli::FileSink out(stdout);
+    cli::writeMoves(position, moves, format, out);
+    return out.finish() ? kSuccess : kFailed;
+}
+
 } // namespace
 
 // Memory that runs out is reported, never an abort: a list cut short says so,
@@ -89,6 +121,11 @@ int main(int argc, char** argv) try {
         std::fputs("lettriner-cli " LETTRINER_VERSION "\n", stdout);
         return kSuccess;
     }
+    const cli::Format format = options.json  ? cli::Format::Json
+                               : options.tsv ? cli::Format::Tsv
+                                             : cli::Format::Table;
+    if (options.onBoard())
+        return searchBoard(options, format);
     const cli::LoadedData data =
         cli::loadDataFiles(options.directory, cli::installedDataFolder(programFolder()));
     for (const std::string& message : data.messages)
@@ -103,9 +140,6 @@ int main(int argc, char** argv) try {
         break;
     }
 
-    const cli::Format format = options.json  ? cli::Format::Json
-                               : options.tsv ? cli::Format::Tsv
-                                             : cli::Format::Table;
     if (!options.checkWords.empty()) {
         std::vector<std::u16string> asked;
         for (const std::string& word : options.checkWords)

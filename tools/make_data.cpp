@@ -4,12 +4,17 @@
 //                     game word list from a UTF-8 German list (wngerman) and
 //                     a gzip word-game list (tanglet-data), with the rule
 //                     files of the folder RULES (see tools/wordlist/README.md)
+//   lettriner-make-data lexicon LIST OUT   the board's lexicon of the word
+//                     list LIST (DB1.txt), stamped with what it was built from
 //   lettriner-make-data letters OUT1 OUT2  letter table and values
 //   lettriner-make-data messages OUT       message file
 //   lettriner-make-data settings OUT       default settings file
 // Every output is created afresh and never through a link (output_file.h).
 
+#include "board/lexicon_file.h"
+#include "board/playable_words.h"
 #include "data/text_case.h"
+#include "data/word_database.h"
 #include "tools/file_bytes.h"
 #include "tools/game_words.h"
 #include "tools/gunzip.h"
@@ -123,9 +128,31 @@ int makeWords(const std::string& generalPath, const std::string& wordGamePath,
     return writeFile(target, wordFileBytes(words.words)) ? 0 : 1;
 }
 
+// The lexicon, built from the list's bytes and stamped with the list's size,
+// time and hash, so a program can tell whether it still belongs to the list.
+int makeLexicon(const std::string& listPath, const std::string& target) {
+    const std::optional<std::int64_t> modified = lettriner::board::modificationTime(listPath);
+    const std::optional<std::string> bytes = fileBytes(listPath);
+    if (!modified || !bytes || bytes->size() > lettriner::kLargestWordList) {
+        std::fprintf(stderr, "lettriner-make-data: cannot read the word list %s\n",
+                     listPath.c_str());
+        return 1;
+    }
+    const lettriner::WordDatabase database{lettriner::FileContents(*bytes)};
+    const std::string file = lettriner::board::encodeLexiconFile(
+        lettriner::board::buildLexicon(lettriner::board::playableWords(database)),
+        lettriner::board::stampOfBytes(*bytes, *modified));
+    if (file.empty()) {
+        std::fprintf(stderr, "lettriner-make-data: %s holds more words than a lexicon file can\n",
+                     listPath.c_str());
+        return 1;
+    }
+    return writeFile(target, file) ? 0 : 1;
+}
+
 int usage() {
-    std::cerr << "usage: lettriner-make-data words GENERAL WORDGAME RULES OUT | letters OUT1 OUT2 "
-                 "| messages OUT | settings OUT\n";
+    std::cerr << "usage: lettriner-make-data words GENERAL WORDGAME RULES OUT | lexicon LIST OUT | "
+                 "letters OUT1 OUT2 | messages OUT | settings OUT\n";
     return 2;
 }
 
@@ -135,6 +162,8 @@ int run(int argc, char** argv) {
     const std::string_view command = argv[1];
     if (command == "words" && argc == 6)
         return makeWords(argv[2], argv[3], argv[4], argv[5]);
+    if (command == "lexicon" && argc == 4)
+        return makeLexicon(argv[2], argv[3]);
     if (command == "letters" && argc == 4)
         return writeFile(argv[2], letterFileBytes()) && writeFile(argv[3], valueFileBytes()) ? 0
                                                                                              : 1;
