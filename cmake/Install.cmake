@@ -8,13 +8,14 @@
 #                                      Settings.txt (the program may rewrite it)
 #   share/lettriner/                   Bewertung1.txt, Bewertung2.txt, and wordlist/,
 #                                      the rules DB1.txt is generated with
-#   share/lettriner/DB1.txt            the word list, in installs without a package
+#   share/lettriner/DB1.txt, DB1.lex   the word list and the board's lexicon of it,
+#                                      in installs without a package
 #   /etc/lettriner/Bewertung*.txt      the package only: the letter values as conffiles,
 #                                      which a player may edit (component "conffiles")
 #   share/applications, share/icons, share/metainfo, share/man, share/doc
 #
-# The Debian package does not carry DB1.txt (component "wordlist" stays out of
-# it): it depends on wngerman and tanglet-data and generates the list into
+# The Debian package does not carry DB1.txt or DB1.lex (component "wordlist"
+# stays out of it): it depends on wngerman and tanglet-data and generates both into
 # /var/lib/lettriner when installed and whenever either changes, with the tool
 # the build uses. Its postinst links the conffiles into the same folder; the
 # copies in share/lettriner stay as the shipped values it compares against.
@@ -37,7 +38,7 @@ install(FILES "${LETTRINER_RUN_DIR}/Bewertung1.txt" "${LETTRINER_RUN_DIR}/Bewert
         DESTINATION "/etc/lettriner" COMPONENT conffiles EXCLUDE_FROM_ALL)
 install(DIRECTORY "${LETTRINER_WORD_RULES}/" DESTINATION "${LETTRINER_DATA_DIR}/wordlist"
         COMPONENT program FILES_MATCHING PATTERN "*.txt" PATTERN "*.COPYING" PATTERN "*.md")
-install(FILES "${LETTRINER_RUN_DIR}/DB1.txt"
+install(FILES "${LETTRINER_RUN_DIR}/DB1.txt" "${LETTRINER_RUN_DIR}/DB1.lex"
         DESTINATION "${LETTRINER_DATA_DIR}" COMPONENT wordlist)
 install(PROGRAMS "${PROJECT_SOURCE_DIR}/packaging/lettriner-launcher.sh"
         DESTINATION "${CMAKE_INSTALL_BINDIR}" RENAME lettriner COMPONENT program)

@@ -100,6 +100,15 @@ echo "lettriner-cli --rack TRAUBEN from /tmp as nobody: $found words found"
 [ "${found:-0}" -gt 0 ] || fail "the installed search found nothing"
 [ ! -e /tmp/DB1.txt ] || fail "lettriner-cli left a file in /tmp"
 
+# The board: the lexicon generated beside the list is current, so the best
+# opening of ENTSAGR comes from it, without a word about building one.
+[ -f "$data/DB1.lex" ] || fail "no lexicon DB1.lex beside the word list"
+opening="$(root runuser -u nobody -- sh -c 'cd /tmp && lettriner-cli --tsv --moves 1 --cgp     "15/15/15/15/15/15/15/15/15/15/15/15/15/15/15 ENTSAGR/ 0/0 0"' 2>/tmp/board-err.txt)"
+[ ! -s /tmp/board-err.txt ] || fail "the board search said: $(cat /tmp/board-err.txt)"
+[ "$(printf '%s\n' "$opening" | awk -F '\t' 'NR == 2 { print $3 }')" = 70 ] ||
+    fail "the best opening of ENTSAGR is not worth 70: $opening"
+echo "lettriner-cli --cgp from /tmp as nobody: the installed lexicon is current, best opening 70"
+
 # The menu entry's command, in a fresh home: the window must still be up
 # after five seconds.
 command="$(sed -n 's/^Exec=//p' /usr/share/applications/lettriner.desktop)"
@@ -114,9 +123,10 @@ echo "the menu entry started the window under Xvfb and it kept running"
 # A reinstall and a change of either word list build the list anew; the
 # edited letter values stay, in the conffile edited directly as well.
 regenerated_by() {
-    root truncate -s 0 "$data/DB1.txt"
+    root truncate -s 0 "$data/DB1.txt" "$data/DB1.lex"
     apt install -y --reinstall "$@"
     [ "$(words_in "$data/DB1.txt")" -ge 650000 ] || fail "$* did not regenerate the word list"
+    [ -s "$data/DB1.lex" ] || fail "$* did not regenerate the lexicon"
     [ "$(quiz_value)" = "$expected_quiz" ] || fail "$* lost the edited letter value"
 }
 expected_quiz=17

@@ -12,7 +12,7 @@ cmake --build --preset release -j "$(nproc)" >/dev/null
 package="$(ls build/release/lettriner_*_amd64.deb)"
 echo "package: $package"
 
-if dpkg-deb -c "$package" | grep -q 'DB1\.txt'; then
+if dpkg-deb -c "$package" | grep -qE 'DB1\.(txt|lex)'; then
     echo "FAIL: the package ships a word list" >&2
     exit 1
 fi

@@ -7,6 +7,7 @@
 #include "cli/message_text.h"
 #include "support/temp_folder.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <optional>
@@ -55,7 +56,17 @@ TEST(ParseOptions, ReadsEveryFormOfEveryOptionAndRejectsTheRest) {
         {{"--starts=a\xF0\x9F\x98\x80"},
          "option --starts takes letters only, not '\xF0\x9F\x98\x80'"},
         {{"--\xFF\r"}, "unknown option --\\xff\\x0d"},
-        {{"--json", "--tsv"}, "options --tsv and --json exclude each other"}};
+        {{"--json", "--tsv"}, "options --tsv and --json exclude each other"},
+        // The board search takes its own options and none of the word search's.
+        {{"--board=b.txt", "--cgp=15"}, "options --board and --cgp exclude each other"},
+        {{"--cgp=15", "--blanks=1"}, "option --blanks belongs to the word search, not a board"},
+        {{"--check", "tee", "--board", "-"},
+         "option --check belongs to the word search, not a board"},
+        {{"--cgp=x", "--extra=1"}, "option --extra belongs to the word search, not a board"},
+        {{"--moves=3"}, "option --moves needs a position: --board FILE or --cgp TEXT"},
+        {{"--all"}, "option --all needs a position: --board FILE or --cgp TEXT"},
+        {{"--cgp=x", "--moves=0"}, "option --moves takes a whole number from 1, not '0'"},
+        {{"--cgp=x", "--moves=5", "--all"}, "options --moves and --all exclude each other"}};
     for (const auto& [arguments, error] : bad)
         EXPECT_EQ(parseOptions(arguments).error, error);
 }
@@ -125,8 +136,9 @@ protected:
     }
 
     // The program at `program`, started in `where` (relative to the fresh folder).
+    // With `input`, that file (relative to the fresh folder) is standard input.
     CliRun runCli(const std::vector<std::string>& arguments, const std::string& where = "data",
-                  const std::string& program = LETTRINER_CLI) const {
+                  const std::string& program = LETTRINER_CLI, const std::string& input = {}) const {
         const auto quoted = [](const std::string& text) {
             std::string result = "'";
             for (const char c : text)
@@ -137,6 +149,8 @@ protected:
         command += quoted((folder / where).string()) + " && " + quoted(program);
         for (const std::string& argument : arguments)
             command.append(" ").append(quoted(argument));
+        if (!input.empty())
+            command += " <" + quoted((folder / input).string());
         command += " >" + quoted((folder / "out.txt").string());
         command += " 2>" + quoted((folder / "err.txt").string());
         const int status = std::system(command.c_str());
@@ -253,6 +267,73 @@ TEST_F(Cli, ExitCodesAndMessages) {
     // Without a word list nothing is read, so no empty data file is left behind.
     EXPECT_FALSE(std::filesystem::exists(folder / "DB1.txt"));
     EXPECT_FALSE(std::filesystem::exists(folder / "Bewertung1.txt"));
+}
+
+// Tiles laid on the letters of the test list: TEE across from H8, and below
+// its E a blank's "ee" down, so the rack FEHR finds FEE, FE and more.
+constexpr const char* kBoardLines = "...............\n...............\n...............\n"
+                                    "...............\n...............\n...............\n"
+                                    "...............\n.......TEE.....\n........e......\n"
+                                    "........e......\n...............\n...............\n"
+                                    "...............\n...............\n...............\n";
+constexpr const char* kBoardCgp = "15/15/15/15/15/15/15/7TEE5/8e6/8e6/15/15/15/15/15 FEHR/ 0/0 0";
+
+TEST_F(Cli, BoardFileStandardInputAndCgpGiveTheSameMoves) {
+    folder.write("data/board.txt", kBoardLines);
+    const CliRun fromCgp = runCli({"--tsv", "--cgp", kBoardCgp, "--all"});
+    EXPECT_EQ(fromCgp.exitCode, 0) << fromCgp.err;
+    EXPECT_TRUE(fromCgp.out.starts_with("moves\t")) << fromCgp.out;
+    EXPECT_NE(fromCgp.out.find("\nJ6\tFEE\t14\tFE\tHR\t\n"), std::string::npos) << fromCgp.out;
+    const CliRun fromFile = runCli({"--tsv", "--board=board.txt", "--rack=fehr", "--all"});
+    EXPECT_EQ(fromFile.out, fromCgp.out);
+    const CliRun fromInput = runCli({"--tsv", "--board", "-", "--rack=FEHR", "--all"}, "data",
+                                    LETTRINER_CLI, "data/board.txt");
+    EXPECT_EQ(fromInput.out, fromCgp.out);
+    // The best two of the moves that lay an H: none; of those laying an E: two.
+    EXPECT_EQ(runCli({"--tsv", "--cgp", kBoardCgp, "--mandatory=h"}).out, "moves\t0\n");
+    const CliRun best = runCli({"--tsv", "--cgp", kBoardCgp, "--moves=2", "--mandatory=e"});
+    const auto lines = [](const std::string& text) {
+        return std::count(text.begin(), text.end(), '\n');
+    };
+    EXPECT_EQ(lines(best.out), 3) << best.out;
+    const std::string firstMove = best.out.substr(best.out.find('\n') + 1);
+    EXPECT_TRUE(firstMove.starts_with("J6\tFEE\t14\t")) << best.out;
+}
+
+TEST_F(Cli, BoardInputThatCannotBeReadIsAUsageError) {
+    folder.write("data/short.txt", "...............\n...............\n");
+    folder.write("data/odd.txt", std::string(kBoardLines).replace(20, 1, "#"));
+    const std::tuple<std::vector<std::string>, std::string> cases[] = {
+        {{"--board=short.txt", "--rack=AB"}, "short.txt: "},
+        {{"--board=odd.txt", "--rack=AB"}, "odd.txt: "},
+        {{"--board=absent.txt", "--rack=AB"}, "cannot read the board file absent.txt"},
+        {{"--cgp", kBoardCgp, "--rack=ABCDEFGH"}, "--rack: "},
+        {{"--cgp", kBoardCgp, "--rack=A1"}, "--rack: "},
+        {{"--cgp=15/15/15/15/15/15/15/15/15/15/15/15/15/15/15"}, "a board needs a rack"},
+        {{"--cgp", kBoardCgp, "--min=viele"}, "option --min takes a whole number of points"},
+        {{"--cgp", kBoardCgp, "--forbidden=ß"},
+         "option --forbidden takes the letters of the tiles"},
+    };
+    for (const auto& [arguments, errStart] : cases) {
+        const CliRun run = runCli(arguments);
+        EXPECT_EQ(run.exitCode, 2) << run.err;
+        EXPECT_TRUE(run.err.starts_with("lettriner-cli: " + errStart)) << run.err;
+        EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
+        EXPECT_EQ(run.out, "");
+    }
+    EXPECT_FALSE(std::filesystem::exists(folder / "data/absent.txt"));
+}
+
+// Legal to read, odd to play on: said on standard error, and the search runs.
+TEST_F(Cli, OddPositionsAreNamedAndSearched) {
+    const CliRun run = runCli({"--cgp", "QQ13/15/15/15/15/15/15/7TEE5/15/15/15/15/15/15/15 FEHR"});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_NE(run.err.find("warning: not in the word list: QQ at 1A"), std::string::npos)
+        << run.err;
+    EXPECT_NE(run.err.find("warning: "), run.err.rfind("warning: ")) << run.err; // unconnected too
+    EXPECT_TRUE(run.out.starts_with("Zug  Wort")) << run.out;
+    // The lexicon file is missing in the test folder: built in memory, and said so.
+    EXPECT_NE(run.err.find("DB1.lex is missing"), std::string::npos) << run.err;
 }
 
 // Files left empty by the window, or missing: named on standard error, never
