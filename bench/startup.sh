@@ -10,10 +10,12 @@
 # Prints: lettriner-cli with the default texts against `an -w` on the same
 # list and rack (hyperfine, with warm-up), the peak memory of each
 # (/usr/bin/time -v), the window's "painted to data ready" time (median of
-# eleven fresh runs of lettriner-gui-bench), and a list thirty times the
-# shipped one.
+# eleven fresh runs of lettriner-gui-bench), a board query as a whole process
+# (the lexicon file checked and read, the best 20 moves of a mid-game
+# position), and a list thirty times the shipped one.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+source_root="$PWD"
 build="$(realpath "${1:-build/release}")"
 run="$build/run"
 for tool in hyperfine /usr/bin/time /usr/games/an; do
@@ -47,6 +49,15 @@ if [ -x "$build/bench/gui/lettriner-gui-bench" ]; then
     done
     median="$(printf '%s\n' "${times[@]}" | sort -n | sed -n 6p)"
     echo "== window: painted to data ready, median of 11 fresh processes: ${median} ms"
+fi
+
+# The mid-game position with one blank of the board benchmarks.
+position="$(sed -n 's/^mid-1-blank-a //p' "$source_root/bench/positions.cgp")"
+if [ -f DB1.lex ] && [ -n "$position" ]; then
+    echo "== whole process, board query: best 20 moves of mid-1-blank-a"
+    hyperfine -N --warmup 5 --runs 40 --style basic "$run/lettriner-cli --cgp '$position'" 2>&1 |
+        grep -E 'Time|Range'
+    echo "   peak memory (kB): $(peak "$run/lettriner-cli" --cgp "$position")"
 fi
 
 big="$(mktemp -d)"
