@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Any command line: the parser always answers, what it accepts is what a run
-// can use (blanks 0 to 2, board letters and patterns as the board test takes
-// them), and the accepted options, written out again, read back the same.
+// can use (blanks 0 to 2, letters and patterns as the tile test takes them, a
+// position never together with the word search's own options, no empty word
+// to check), and the accepted options, written out again, read back the same.
 
 #include "cli/cli_options.h"
 #include "data/utf8.h"
-#include "engine/board_test.h"
 #include "engine/prepared_words.h"
+#include "engine/tile_test.h"
 #include "fuzz_input.h"
 
 #include <string>
@@ -29,7 +30,7 @@ bool onlyLetters(std::u16string_view text, bool dotsAllowed) {
 auto fields(const Options& o) {
     return std::tie(o.rack, o.mandatory, o.forbidden, o.extra, o.minimum, o.fieldSize, o.directory,
                     o.blanks, o.pattern, o.starts, o.ends, o.minLength, o.maxLength, o.checkWords,
-                    o.tsv, o.json, o.help, o.version);
+                    o.boardFile, o.cgp, o.moves, o.allMoves, o.tsv, o.json, o.help, o.version);
 }
 
 // One spelling of the options, each value as an argument of its own.
@@ -48,6 +49,10 @@ std::vector<std::string> writtenOut(const Options& o) {
     text("--min", o.minimum);
     text("--field-size", o.fieldSize);
     text("-C", o.directory);
+    text("--board", o.boardFile);
+    text("--cgp", o.cgp);
+    if (o.moves)
+        text("--moves", std::to_string(*o.moves));
     if (o.blanks)
         text("--blanks", std::to_string(*o.blanks));
     for (const auto& [name, letters] :
@@ -61,6 +66,7 @@ std::vector<std::string> writtenOut(const Options& o) {
         text("--max-length", std::to_string(*o.maxLength));
     for (const auto& [flag, name] : {std::pair{o.tsv, "--tsv"},
                                      {o.json, "--json"},
+                                     {o.allMoves, "--all"},
                                      {o.help, "--help"},
                                      {o.version, "--version"}}) {
         if (flag)
@@ -93,15 +99,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (o.blanks && (*o.blanks < 0 || *o.blanks > kMostBlanks))
         fuzz::fail("accepted a number of blanks outside 0 to 2");
     if (!o.pattern.empty() && (o.pattern.size() > kLongestPattern || !onlyLetters(o.pattern, true)))
-        fuzz::fail("accepted a pattern the board test cannot take");
+        fuzz::fail("accepted a pattern the tile test cannot take");
     if (!onlyLetters(o.starts, false) || !onlyLetters(o.ends, false))
         fuzz::fail("accepted a beginning or end that is not letters");
     if (o.tsv && o.json)
         fuzz::fail("accepted --tsv together with --json");
     for (const std::string& word : o.checkWords) {
-        if (word.starts_with("-"))
-            fuzz::fail("took an option for a word to check");
+        if (word.starts_with("-") || word.empty())
+            fuzz::fail("took an option or nothing for a word to check");
     }
+    if (o.onBoard() && (o.usesTiles() || !o.checkWords.empty() || o.extra || o.fieldSize))
+        fuzz::fail("accepted an option of the word search together with a position");
+    if (!o.onBoard() && (o.moves || o.allMoves))
+        fuzz::fail("accepted an option of the board search without a position");
     const cli::ParseResult again = cli::parseOptions(writtenOut(o));
     if (!again.error.empty() || fields(again.options) != fields(o))
         fuzz::fail("the options written out read back otherwise");
