@@ -292,8 +292,11 @@ DecodedLexicon decodeLexiconFile(std::string_view bytes) {
     std::vector<std::uint32_t> slots(anagramSlots);
     const unsigned char* slotPart = anagramPart + 8 * std::size_t{anagramWords};
     if constexpr (std::endian::native == std::endian::little) {
-        std::memcpy(words.data(), anagramPart, 8 * words.size());
-        std::memcpy(slots.data(), slotPart, 4 * slots.size());
+        // An empty vector's data() may be null, which memcpy must not get.
+        if (!words.empty())
+            std::memcpy(words.data(), anagramPart, 8 * words.size());
+        if (!slots.empty())
+            std::memcpy(slots.data(), slotPart, 4 * slots.size());
     } else {
         for (std::size_t i = 0; i < words.size(); ++i)
             words[i] = get64(anagramPart + 8 * i);
