@@ -126,14 +126,16 @@ void BM_LexiconBuild(benchmark::State& state) {
     state.counters["anagram_words"] = static_cast<double>(list.lexicon.anagrams.words().size());
     state.counters["arcs"] = static_cast<double>(arcs);
     state.counters["file_bytes"] = static_cast<double>(file.size());
-    state.counters["DB1_bytes"] = static_cast<double>(std::filesystem::file_size(kRunFolder / "DB1.txt"));
+    state.counters["DB1_bytes"] =
+        static_cast<double>(std::filesystem::file_size(kRunFolder / "DB1.txt"));
 }
 
 // Reading the lexicon file as the program does at start: checked against
 // DB1.txt (size and time), read, checksummed and decoded into fresh memory.
 void BM_LexiconLoad(benchmark::State& state) {
     shippedList();
-    const std::filesystem::path file = std::filesystem::temp_directory_path() / "lettriner-bench-DB1.lex";
+    const std::filesystem::path file =
+        std::filesystem::temp_directory_path() / "lettriner-bench-DB1.lex";
     std::string error;
     if (!writeLexiconFileFor(kRunFolder / "DB1.txt", file, error)) {
         state.SkipWithError(error.c_str());
@@ -154,14 +156,17 @@ void BM_LexiconLoad(benchmark::State& state) {
 void registerBenchmarks() {
     for (const NamedPosition& named : benchmarkPositions()) {
         const Position position = named.position;
-        benchmark::RegisterBenchmark(("BM_AllMoves/" + named.name).c_str(),
-                                     [position](benchmark::State& state) { allMovesOf(state, position); })
+        benchmark::RegisterBenchmark(
+            ("BM_AllMoves/" + named.name).c_str(),
+            [position](benchmark::State& state) { allMovesOf(state, position); })
             ->Unit(benchmark::kMicrosecond);
-        benchmark::RegisterBenchmark(("BM_BestMove/" + named.name).c_str(),
-                                     [position](benchmark::State& state) { bestMovesOf(state, position, 1); })
+        benchmark::RegisterBenchmark(
+            ("BM_BestMove/" + named.name).c_str(),
+            [position](benchmark::State& state) { bestMovesOf(state, position, 1); })
             ->Unit(benchmark::kMicrosecond);
-        benchmark::RegisterBenchmark(("BM_Best20/" + named.name).c_str(),
-                                     [position](benchmark::State& state) { bestMovesOf(state, position, 20); })
+        benchmark::RegisterBenchmark(
+            ("BM_Best20/" + named.name).c_str(),
+            [position](benchmark::State& state) { bestMovesOf(state, position, 20); })
             ->Unit(benchmark::kMicrosecond);
     }
     benchmark::RegisterBenchmark("BM_BestMoveSummary", BM_BestMoveSummary)

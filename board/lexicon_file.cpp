@@ -67,9 +67,9 @@ struct ArcParts {
 void encodeArc(ArcParts& parts, Arc arc, std::uint32_t index) {
     const std::uint32_t child = arcChild(arc);
     const unsigned next = child != 0 && child == index + 1 ? kNextBit : 0;
-    parts.firstBytes += static_cast<char>(next + arcLetter(arc) * 4 +
-                                          (arcIsLast(arc) ? kLastBit : 0) +
-                                          (arcAccepts(arc) ? kAcceptsBit : 0));
+    parts.firstBytes +=
+        static_cast<char>(next + arcLetter(arc) * 4 + (arcIsLast(arc) ? kLastBit : 0) +
+                          (arcAccepts(arc) ? kAcceptsBit : 0));
     if (next != 0)
         return;
     const std::int64_t distance = std::int64_t{child} - std::int64_t{index};
@@ -245,12 +245,12 @@ DecodedLexicon decodeLexiconFile(std::string_view bytes) {
     }
     // The parts' sizes must add up to the bytes there are, before any memory
     // is taken for them.
-    const std::uint64_t expected = kHeaderSize + std::uint64_t{arcCount - 2} +
-                                   2 * std::uint64_t{indexCount} + farCount +
-                                   8 * std::uint64_t{anagramWords} + 4 * std::uint64_t{anagramSlots};
+    const std::uint64_t expected =
+        kHeaderSize + std::uint64_t{arcCount - 2} + 2 * std::uint64_t{indexCount} + farCount +
+        8 * std::uint64_t{anagramWords} + 4 * std::uint64_t{anagramSlots};
     if (expected != bytes.size()) {
-        result.error = expected > bytes.size() ? "the file is truncated"
-                                               : "the file is longer than its parts";
+        result.error =
+            expected > bytes.size() ? "the file is truncated" : "the file is longer than its parts";
         return result;
     }
     const std::uint32_t dawgRoot = get32(in + 48);
@@ -262,7 +262,8 @@ DecodedLexicon decodeLexiconFile(std::string_view bytes) {
     // The decoder reads an index word and a far byte for every arc, also
     // past the last it uses: three bytes must follow the far part. They are
     // the anagram index's; without one, a copy of the file brings padding.
-    const std::size_t farEnd = kHeaderSize + (arcCount - 2) + 2 * std::size_t{indexCount} + farCount;
+    const std::size_t farEnd =
+        kHeaderSize + (arcCount - 2) + 2 * std::size_t{indexCount} + farCount;
     std::string padded;
     if (bytes.size() - farEnd < 3) {
         padded.reserve(bytes.size() + 3);
@@ -282,7 +283,8 @@ DecodedLexicon decodeLexiconFile(std::string_view bytes) {
     std::unique_ptr<Arc[]> arcs(new Arc[arcCount]);
     arcs[kDawgRootArc] = dawgRoot;
     arcs[kGaddagRootArc] = gaddagRoot;
-    const std::uint32_t highestChild = decodeArcs(firstBytes, indexWords, farBytes, arcs.get(), arcCount);
+    const std::uint32_t highestChild =
+        decodeArcs(firstBytes, indexWords, farBytes, arcs.get(), arcCount);
     if (highestChild >= arcCount || (arcCount > 2 && !arcIsLast(arcs[arcCount - 1]))) {
         result.error = "the file's graph is damaged";
         return result;

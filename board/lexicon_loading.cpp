@@ -67,8 +67,8 @@ LexiconFileCheck readLexiconFile(const std::filesystem::path& lexiconFile,
     }
     const std::uintmax_t listSize = std::filesystem::file_size(wordListFile, error);
     const std::optional<std::int64_t> listTime = modificationTime(wordListFile);
-    bool current = !error && listTime && listSize == decoded.stamp.size &&
-                   *listTime == decoded.stamp.modified;
+    bool current =
+        !error && listTime && listSize == decoded.stamp.size && *listTime == decoded.stamp.modified;
     if (!current && !error && listSize == decoded.stamp.size) {
         const std::optional<FileBytes> list = readWhole(wordListFile, kLargestWordList);
         current = list && stampOfBytes(list->view(), 0).hash == decoded.stamp.hash;

@@ -15,11 +15,11 @@
 // letter and a real tile of it give two moves. An empty rack has no moves.
 
 #include "board/board.h"
+#include "board/lexicon.h"
 #include "board/move.h"
 #include "board/move_recorder.h"
 #include "board/rack.h"
 #include "board/tile_values.h"
-#include "board/lexicon.h"
 
 #include <climits>
 #include <cstddef>

@@ -75,7 +75,8 @@ std::vector<LaidTile> laidTiles(const Move& move) {
     std::vector<LaidTile> tiles;
     for (int i = 0; i < move.length; ++i) {
         if (move.isLaid(i))
-            tiles.push_back({move.rowOf(i), move.columnOf(i), move.word[static_cast<std::size_t>(i)]});
+            tiles.push_back(
+                {move.rowOf(i), move.columnOf(i), move.word[static_cast<std::size_t>(i)]});
     }
     return tiles;
 }

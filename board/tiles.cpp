@@ -9,11 +9,11 @@ namespace {
 constexpr unsigned char kUmlautCapitals[3] = {0xC4, 0xD6, 0xDC};
 
 constexpr std::string_view kUpperUtf8[kLetterCount + 1] = {
-    "?", "A", "B", "C", "D", "E", "F", "G", "H", "I", "J", "K", "L", "M", "N", "O",
-    "P", "Q", "R", "S", "T", "U", "V", "W", "X", "Y", "Z", "\xC3\x84", "\xC3\x96", "\xC3\x9C"};
+    "?", "A", "B", "C", "D", "E", "F", "G", "H", "I", "J", "K", "L",        "M",        "N",
+    "O", "P", "Q", "R", "S", "T", "U", "V", "W", "X", "Y", "Z", "\xC3\x84", "\xC3\x96", "\xC3\x9C"};
 constexpr std::string_view kLowerUtf8[kLetterCount + 1] = {
-    "?", "a", "b", "c", "d", "e", "f", "g", "h", "i", "j", "k", "l", "m", "n", "o",
-    "p", "q", "r", "s", "t", "u", "v", "w", "x", "y", "z", "\xC3\xA4", "\xC3\xB6", "\xC3\xBC"};
+    "?", "a", "b", "c", "d", "e", "f", "g", "h", "i", "j", "k", "l",        "m",        "n",
+    "o", "p", "q", "r", "s", "t", "u", "v", "w", "x", "y", "z", "\xC3\xA4", "\xC3\xB6", "\xC3\xBC"};
 
 } // namespace
 

@@ -28,9 +28,15 @@ inline constexpr int kBoardSize = 15;
 using LetterMask = std::uint32_t;
 inline constexpr LetterMask kAllLetters = ((LetterMask{1} << (kLetterCount + 1)) - 1) & ~1u;
 
-[[nodiscard]] constexpr Letter letterOf(Tile tile) { return tile & kLetterBits; }
-[[nodiscard]] constexpr bool isBlank(Tile tile) { return (tile & kBlankBit) != 0; }
-[[nodiscard]] constexpr LetterMask maskOf(Letter letter) { return LetterMask{1} << letter; }
+[[nodiscard]] constexpr Letter letterOf(Tile tile) {
+    return tile & kLetterBits;
+}
+[[nodiscard]] constexpr bool isBlank(Tile tile) {
+    return (tile & kBlankBit) != 0;
+}
+[[nodiscard]] constexpr LetterMask maskOf(Letter letter) {
+    return LetterMask{1} << letter;
+}
 
 // The letter of an upper-case Windows-1252 code (A-Z, Ä Ö Ü); kNoLetter for
 // every other byte, lower case included.

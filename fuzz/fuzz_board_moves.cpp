@@ -9,8 +9,8 @@
 #include "board/move_text.h"
 #include "board/position_text.h"
 #include "board_test_support.h"
-#include "reference_generator.h"
 #include "fuzz_input.h"
+#include "reference_generator.h"
 
 namespace {
 
@@ -81,8 +81,10 @@ void compare(const Board& board, const Rack& rack, ByteSource& bytes) {
         bestMoves(board, rack, list.graphOnly, list.values, count) != first)
         fuzz::fail("best N are not the first N of all moves");
     MoveFilter filter;
-    filter.mandatory = bytes.next() % 3 == 0 ? maskOf(static_cast<Letter>(1 + bytes.next() % 29)) : 0;
-    filter.forbidden = bytes.next() % 3 == 0 ? maskOf(static_cast<Letter>(1 + bytes.next() % 29)) : 0;
+    filter.mandatory =
+        bytes.next() % 3 == 0 ? maskOf(static_cast<Letter>(1 + bytes.next() % 29)) : 0;
+    filter.forbidden =
+        bytes.next() % 3 == 0 ? maskOf(static_cast<Letter>(1 + bytes.next() % 29)) : 0;
     filter.minimumScore = bytes.next() % 2 == 0 ? static_cast<int>(bytes.next() % 40) : INT_MIN;
     const std::vector<Move> kept = keptByFilter(fast, filter);
     if (allMoves(board, rack, list.lexicon, list.values, filter) != kept)
@@ -104,14 +106,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             const unsigned square = bytes.next() % (kBoardSize * kBoardSize);
             const unsigned letter = 1 + bytes.next() % kLetterCount;
             const Tile tile = static_cast<Tile>(letter | (bytes.next() % 8 == 0 ? kBlankBit : 0));
-            board.set(static_cast<int>(square / kBoardSize), static_cast<int>(square % kBoardSize), tile);
+            board.set(static_cast<int>(square / kBoardSize), static_cast<int>(square % kBoardSize),
+                      tile);
         }
     } else {
         // A game: racks from the bytes, each turn one of the moves listed.
         const unsigned turns = bytes.next() % 12;
         for (unsigned turn = 0; turn < turns && !bytes.done(); ++turn) {
             const Rack rack = rackFrom(bytes);
-            const std::vector<Move> moves = allMoves(board, rack, smallList().lexicon, smallList().values);
+            const std::vector<Move> moves =
+                allMoves(board, rack, smallList().lexicon, smallList().values);
             if (moves.empty())
                 continue;
             const unsigned pick = bytes.next() | (bytes.next() << 8);
