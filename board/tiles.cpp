@@ -45,6 +45,22 @@ CharacterLetter letterFromCharacter(char32_t character) {
     return {letterFromWindows1252(static_cast<unsigned char>(character)), false};
 }
 
+LetterMask lettersIn(std::string_view utf8) {
+    LetterMask mask = 0;
+    for (std::size_t i = 0; i < utf8.size(); ++i) {
+        char32_t character = static_cast<unsigned char>(utf8[i]);
+        // Ä Ö Ü and ä ö ü are the only letters beyond ASCII: two bytes, C3 then the low bits.
+        if (character == 0xC3 && i + 1 < utf8.size())
+            character = 0xC0u | (static_cast<unsigned char>(utf8[++i]) & 0x3Fu);
+        else if (character >= 0x80)
+            continue;
+        const Letter letter = letterFromCharacter(character).letter;
+        if (letter != kNoLetter)
+            mask |= maskOf(letter);
+    }
+    return mask;
+}
+
 std::string_view letterUtf8(Letter letter, bool lowerCase) {
     if (letter > kLetterCount)
         return "?";

@@ -52,6 +52,10 @@ struct CharacterLetter {
 };
 [[nodiscard]] CharacterLetter letterFromCharacter(char32_t character);
 
+// The letters in UTF-8 text, either case (a filter's letters: "en" and "EN"
+// alike); characters that name no letter are left out.
+[[nodiscard]] LetterMask lettersIn(std::string_view utf8);
+
 // The letter as UTF-8, upper case or lower case; "?" for kNoLetter.
 [[nodiscard]] std::string_view letterUtf8(Letter letter, bool lowerCase = false);
 // A tile as UTF-8: the upper-case letter, a blank's letter in lower case,

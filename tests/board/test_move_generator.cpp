@@ -131,6 +131,36 @@ INSTANTIATE_TEST_SUITE_P(Table, HandWorked, ::testing::ValuesIn(handWorkedMoves(
                              return name;
                          });
 
+TEST(MoveText, ShowsTheLaidTilesTheLeaveAndTheCrossWords) {
+    // OHNE under HAUS with a blank for N: laid O H n, left the rack's
+    // other tiles in rack order, blanks as "?".
+    const Lexicon lexicon = buildLexicon(lettersOf(kHandWords));
+    const Board board = boardOf(
+        rowsWith({{8, "....HAUS......."}, {9, ".......E......."}, {10, ".......E......."}}));
+    const Rack rack = rackOf("X?OHQ?");
+    const std::vector<Move> moves = allMoves(board, rack, lexicon, germanValues());
+    const auto found = std::find_if(moves.begin(), moves.end(), [](const Move& move) {
+        return moveCoordinate(move) == "9E" && moveWord(move) == "OHnE";
+    });
+    ASSERT_NE(found, moves.end()) << describe(moves);
+    EXPECT_EQ(laidTilesText(*found), "OHn");
+    EXPECT_EQ(rackLeave(rack, *found), "XQ?");
+    EXPECT_EQ(crossWordTexts(board, *found), (std::vector<std::string>{"HO", "AH", "Un"}));
+    const std::vector<LaidTile> laid = laidTiles(*found);
+    ASSERT_EQ(laid.size(), 3u);
+    EXPECT_EQ(laid[2], (LaidTile{8, 6, static_cast<Tile>(lettersOf("N")[0] | kBlankBit)}));
+    // Down moves name the column first; rows count from 1.
+    Move down;
+    down.row = 14;
+    down.column = 14;
+    down.direction = Direction::Down;
+    EXPECT_EQ(moveCoordinate(down), "O15");
+    down.direction = Direction::Across;
+    EXPECT_EQ(moveCoordinate(down), "15O");
+    EXPECT_EQ(lettersIn("enÄü?x1-ß"),
+              maskOf(5) | maskOf(14) | maskOf(27) | maskOf(29) | maskOf(24));
+}
+
 TEST(MoveGenerator, EmptyBoardListsOnlyAcrossMovesOverTheCentre) {
     const Lexicon lexicon = buildLexicon(lettersOf(kHandWords));
     const std::vector<Move> moves = allMoves(Board{}, rackOf("HAUS"), lexicon, germanValues());
