@@ -8,6 +8,7 @@
 #include "board/playable_words.h"
 #include "board/position_text.h"
 #include "board/premium_layout.h"
+#include "board/scoring.h"
 #include "board_test_support.h"
 #include "reference_generator.h"
 
@@ -15,6 +16,7 @@
 #include <cctype>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -96,6 +98,11 @@ const std::vector<HandWorkedMove>& handWorkedMoves() {
     return moves;
 }
 
+// Test names and failures show the row's name, not its bytes.
+void PrintTo(const HandWorkedMove& row, std::ostream* out) {
+    *out << row.name;
+}
+
 class HandWorked : public ::testing::TestWithParam<HandWorkedMove> {};
 
 TEST_P(HandWorked, MoveIsFoundWithItsScoreAndTheTwinAgrees) {
@@ -113,6 +120,10 @@ TEST_P(HandWorked, MoveIsFoundWithItsScoreAndTheTwinAgrees) {
     }
     ASSERT_EQ(matching.size(), 1u) << describe(moves);
     EXPECT_EQ(matching[0].score, expected.score);
+    // Scoring the laid tiles from scratch, as the window does, agrees.
+    EXPECT_EQ(
+        scorePlacement(board, laidTiles(matching[0]), matching[0].direction, germanValues()).total,
+        expected.score);
     EXPECT_EQ(crossWordTexts(board, matching[0]), expected.crossWords);
     // Its tiles come from the rack: the leave is the rack less the laid tiles.
     EXPECT_EQ(laidTilesText(matching[0]).size() + rackLeave(rack, matching[0]).size(),

@@ -173,6 +173,8 @@ TEST(CrossChecks, AgreeWithTryingEveryLetter) {
     const TileValues values = testing::germanValues();
     std::mt19937 random(4);
     Board board;
+    // Kept up to date by recomputing only the columns a move lays tiles in.
+    CrossChecks updated(board, graph, values);
     for (int turn = 0; turn < 40; ++turn) {
         const CrossChecks checks(board, graph, values);
         for (int row = 0; row < kBoardSize; ++row) {
@@ -196,18 +198,25 @@ TEST(CrossChecks, AgreeWithTryingEveryLetter) {
                 }
                 for (int r = top; r <= bottom; ++r)
                     score += r == row ? 0 : values.tile(board.at(r, column));
-                const CrossCheck& check = checks.at(row, column);
-                ASSERT_EQ(check.allowed, allowed) << "row " << row << " column " << column;
-                ASSERT_EQ(check.score, score);
-                ASSERT_EQ(check.boardTiles, bottom - top);
+                for (const CrossCheck* check :
+                     {&checks.at(row, column), &updated.at(row, column)}) {
+                    ASSERT_EQ(check->allowed, allowed) << "row " << row << " column " << column;
+                    ASSERT_EQ(check->score, score);
+                    ASSERT_EQ(check->boardTiles, bottom - top);
+                }
             }
         }
         const std::vector<Move> moves =
             allMoves(board, testing::randomRack(random, 1), Lexicon{graph, {}}, values);
-        if (moves.empty())
+        if (moves.empty()) {
             board = Board{};
-        else
-            applyMove(board, moves[random() % moves.size()]);
+            updated = CrossChecks(board, graph, values);
+            continue;
+        }
+        const Move& move = moves[random() % moves.size()];
+        applyMove(board, move);
+        for (const LaidTile& tile : laidTiles(move))
+            updated.recomputeColumn(board, tile.column, graph, values);
     }
 }
 
