@@ -16,4 +16,20 @@ namespace lettriner::board {
 
 [[nodiscard]] std::uint64_t contentHash(std::string_view bytes, std::uint64_t seed = 0);
 
+// The same hash over bytes that come in pieces (a file read part by part):
+// adding pieces and finishing gives contentHash of them joined.
+class ContentHasher {
+public:
+    explicit ContentHasher(std::uint64_t seed = 0);
+    void add(std::string_view bytes);
+    [[nodiscard]] std::uint64_t finish() const;
+
+private:
+    std::uint64_t seed_;
+    std::uint64_t lanes_[4];
+    std::uint64_t total_ = 0;
+    char pending_[32] = {}; // bytes of an unfinished stripe
+    std::size_t pendingSize_ = 0;
+};
+
 } // namespace lettriner::board

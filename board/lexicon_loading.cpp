@@ -53,13 +53,7 @@ LexiconFileCheck readLexiconFile(const std::filesystem::path& lexiconFile,
         check.problem = nameOf(lexiconFile) + " is missing";
         return check;
     }
-    const std::optional<FileBytes> bytes = readWhole(lexiconFile, 4 * kLargestWordList);
-    if (!bytes) {
-        check.state = LexiconFileState::Damaged;
-        check.problem = nameOf(lexiconFile) + " cannot be read or is far too large";
-        return check;
-    }
-    DecodedLexicon decoded = decodeLexiconFile(bytes->view());
+    DecodedLexicon decoded = readLexiconFileAt(lexiconFile);
     if (!decoded.error.empty()) {
         check.state = LexiconFileState::Damaged;
         check.problem = nameOf(lexiconFile) + " is damaged: " + decoded.error;
