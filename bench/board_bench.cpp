@@ -2,8 +2,9 @@
 // The board library's speed on the shipped list: all moves and the best move
 // for the positions in positions.cgp (microseconds per position, moves per
 // second), the median and the slowest best-move search over them, and the
-// word graph's build time, file size and load time. Run from anywhere: the
-// list comes from the run folder.
+// lexicon's build time, file size and load time. Run from anywhere: the list
+// comes from the run folder, or from the folder LETTRINER_BOARD_LIST names
+// (DB1.txt, Bewertung1.txt, Bewertung2.txt), to measure another list.
 
 #include "board/lexicon.h"
 #include "board/lexicon_file.h"
@@ -17,6 +18,7 @@
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -27,7 +29,12 @@ namespace {
 using namespace lettriner;
 using namespace lettriner::board;
 
-const std::filesystem::path kRunFolder = LETTRINER_RUN_DIR;
+std::filesystem::path listFolder() {
+    const char* folder = std::getenv("LETTRINER_BOARD_LIST");
+    return folder != nullptr ? std::filesystem::path(folder)
+                             : std::filesystem::path(LETTRINER_RUN_DIR);
+}
+const std::filesystem::path kRunFolder = listFolder();
 
 struct ShippedList {
     WordDatabase database = DatenbankEinlesen(kRunFolder / "DB1.txt");
