@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// A 64-bit hash of a file's bytes, for the stamp the word graph file keeps of
-// the word list it was built from, and for the graph file's own checksum.
+// A 64-bit hash of a file's bytes, for the stamp the lexicon file keeps of
+// the word list it was built from, and for the lexicon file's own checksum.
 // Not std::hash: its value may differ between standard libraries, versions and
 // runs, while a stamp written by the data tool at installation must compare
 // equal in every later program, on any platform. This one is defined here

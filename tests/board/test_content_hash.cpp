@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The stamp's hash must never change: a graph file written by one version
+// The stamp's hash must never change: a lexicon file written by one version
 // of the program is checked by every later one.
 
 #include "board/content_hash.h"
