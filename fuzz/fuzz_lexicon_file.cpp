@@ -10,6 +10,10 @@
 #include "board/position_text.h"
 #include "fuzz_input.h"
 
+#include <cstdio>
+#include <filesystem>
+#include <random>
+#include <string>
 #include <vector>
 
 namespace {
@@ -41,8 +45,41 @@ std::string withChecksum(std::string_view bytes) {
     return file;
 }
 
+// The file reader, streaming the parts from a file, must find what the
+// in-memory decoder finds.
+void checkFileReader(std::string_view bytes, const DecodedLexicon& decoded) {
+    // One file for the run, removed when the fuzzer exits.
+    struct RunFile {
+        std::filesystem::path path =
+            std::filesystem::temp_directory_path() /
+            ("lettriner-fuzz-lexicon-" + std::to_string(std::random_device{}()));
+        ~RunFile() {
+            std::error_code ignored;
+            std::filesystem::remove(path, ignored);
+        }
+    };
+    static const RunFile runFile;
+    const std::filesystem::path& path = runFile.path;
+    std::FILE* file = std::fopen(path.c_str(), "wb");
+    if (file == nullptr)
+        return;
+    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
+    if (std::fclose(file) != 0 || !written)
+        return;
+    const DecodedLexicon read = readLexiconFileAt(path);
+    if (read.error != decoded.error ||
+        !std::equal(read.lexicon.graph.arcs().begin(), read.lexicon.graph.arcs().end(),
+                    decoded.lexicon.graph.arcs().begin(), decoded.lexicon.graph.arcs().end()))
+        fuzz::fail("the file reader and the in-memory decoder disagree");
+}
+
 void check(std::string_view bytes) {
     const DecodedLexicon decoded = decodeLexiconFile(bytes);
+    // Files are slow: one input in eight (the first of a run among them,
+    // so a saved input replays its check).
+    static unsigned inputs = 0;
+    if (inputs++ % 8 == 0)
+        checkFileReader(bytes, decoded);
     if (!decoded.error.empty()) {
         if (!decoded.lexicon.empty() || decoded.error.find('\n') != std::string::npos)
             fuzz::fail("a refused file gives a lexicon or a message of several lines");
