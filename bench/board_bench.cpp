@@ -2,8 +2,9 @@
 // The board library's speed on the shipped list: all moves and the best move
 // for the positions in positions.cgp (microseconds per position, moves per
 // second), the median and the slowest best-move search over them, and the
-// word graph's build time, file size and load time. Run from anywhere: the
-// list comes from the run folder.
+// lexicon's build time, file size and load time. Run from anywhere: the list
+// comes from the run folder, or from the folder LETTRINER_BOARD_LIST names
+// (DB1.txt, Bewertung1.txt, Bewertung2.txt), to measure another list.
 
 #include "board/lexicon.h"
 #include "board/lexicon_file.h"
@@ -17,6 +18,7 @@
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -27,7 +29,12 @@ namespace {
 using namespace lettriner;
 using namespace lettriner::board;
 
-const std::filesystem::path kRunFolder = LETTRINER_RUN_DIR;
+std::filesystem::path listFolder() {
+    const char* folder = std::getenv("LETTRINER_BOARD_LIST");
+    return folder != nullptr ? std::filesystem::path(folder)
+                             : std::filesystem::path(LETTRINER_RUN_DIR);
+}
+const std::filesystem::path kRunFolder = listFolder();
 
 struct ShippedList {
     WordDatabase database = DatenbankEinlesen(kRunFolder / "DB1.txt");
@@ -126,14 +133,16 @@ void BM_LexiconBuild(benchmark::State& state) {
     state.counters["anagram_words"] = static_cast<double>(list.lexicon.anagrams.words().size());
     state.counters["arcs"] = static_cast<double>(arcs);
     state.counters["file_bytes"] = static_cast<double>(file.size());
-    state.counters["DB1_bytes"] = static_cast<double>(std::filesystem::file_size(kRunFolder / "DB1.txt"));
+    state.counters["DB1_bytes"] =
+        static_cast<double>(std::filesystem::file_size(kRunFolder / "DB1.txt"));
 }
 
 // Reading the lexicon file as the program does at start: checked against
 // DB1.txt (size and time), read, checksummed and decoded into fresh memory.
 void BM_LexiconLoad(benchmark::State& state) {
     shippedList();
-    const std::filesystem::path file = std::filesystem::temp_directory_path() / "lettriner-bench-DB1.lex";
+    const std::filesystem::path file =
+        std::filesystem::temp_directory_path() / "lettriner-bench-DB1.lex";
     std::string error;
     if (!writeLexiconFileFor(kRunFolder / "DB1.txt", file, error)) {
         state.SkipWithError(error.c_str());
@@ -154,14 +163,17 @@ void BM_LexiconLoad(benchmark::State& state) {
 void registerBenchmarks() {
     for (const NamedPosition& named : benchmarkPositions()) {
         const Position position = named.position;
-        benchmark::RegisterBenchmark(("BM_AllMoves/" + named.name).c_str(),
-                                     [position](benchmark::State& state) { allMovesOf(state, position); })
+        benchmark::RegisterBenchmark(
+            ("BM_AllMoves/" + named.name).c_str(),
+            [position](benchmark::State& state) { allMovesOf(state, position); })
             ->Unit(benchmark::kMicrosecond);
-        benchmark::RegisterBenchmark(("BM_BestMove/" + named.name).c_str(),
-                                     [position](benchmark::State& state) { bestMovesOf(state, position, 1); })
+        benchmark::RegisterBenchmark(
+            ("BM_BestMove/" + named.name).c_str(),
+            [position](benchmark::State& state) { bestMovesOf(state, position, 1); })
             ->Unit(benchmark::kMicrosecond);
-        benchmark::RegisterBenchmark(("BM_Best20/" + named.name).c_str(),
-                                     [position](benchmark::State& state) { bestMovesOf(state, position, 20); })
+        benchmark::RegisterBenchmark(
+            ("BM_Best20/" + named.name).c_str(),
+            [position](benchmark::State& state) { bestMovesOf(state, position, 20); })
             ->Unit(benchmark::kMicrosecond);
     }
     benchmark::RegisterBenchmark("BM_BestMoveSummary", BM_BestMoveSummary)

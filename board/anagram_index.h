@@ -43,10 +43,12 @@ public:
     [[nodiscard]] std::span<const PackedLetters> wordsOf(PackedLetters key) const;
 
     [[nodiscard]] std::span<const PackedLetters> words() const {
-        return arrays_ ? std::span<const PackedLetters>(arrays_->words) : std::span<const PackedLetters>();
+        return arrays_ ? std::span<const PackedLetters>(arrays_->words)
+                       : std::span<const PackedLetters>();
     }
     [[nodiscard]] std::span<const std::uint32_t> slots() const {
-        return arrays_ ? std::span<const std::uint32_t>(arrays_->slots) : std::span<const std::uint32_t>();
+        return arrays_ ? std::span<const std::uint32_t>(arrays_->slots)
+                       : std::span<const std::uint32_t>();
     }
 
     // Why the arrays could lead a lookup astray, or empty when they cannot:

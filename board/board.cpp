@@ -9,11 +9,6 @@ bool Board::hasTiles() const {
     return std::any_of(squares_.begin(), squares_.end(), [](Tile tile) { return tile != kEmpty; });
 }
 
-int Board::tileCount() const {
-    return static_cast<int>(
-        std::count_if(squares_.begin(), squares_.end(), [](Tile tile) { return tile != kEmpty; }));
-}
-
 Board Board::transposed() const {
     Board result;
     for (int row = 0; row < kBoardSize; ++row) {

@@ -22,12 +22,7 @@ public:
         if (inside(row, column))
             squares_[index(row, column)] = tile;
     }
-    // The square `step` squares along `direction` from (row, column).
-    [[nodiscard]] Tile along(Direction direction, int row, int column, int step) const {
-        return direction == Direction::Across ? at(row, column + step) : at(row + step, column);
-    }
     [[nodiscard]] bool hasTiles() const;
-    [[nodiscard]] int tileCount() const;
     // Rows become columns: the down lines of this board are the across lines of the result.
     [[nodiscard]] Board transposed() const;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/content_hash.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstring>
 
@@ -33,7 +34,7 @@ std::uint64_t mixLane(std::uint64_t lane, std::uint64_t word) {
 }
 
 // Every input bit reaches every output bit.
-std::uint64_t finish(std::uint64_t hash) {
+std::uint64_t avalanche(std::uint64_t hash) {
     hash ^= hash >> 33;
     hash *= kMultiplyB;
     hash ^= hash >> 29;
@@ -44,27 +45,58 @@ std::uint64_t finish(std::uint64_t hash) {
 
 } // namespace
 
-std::uint64_t contentHash(std::string_view bytes, std::uint64_t seed) {
+ContentHasher::ContentHasher(std::uint64_t seed)
+    : seed_(seed), lanes_{seed + kMultiplyA + kMultiplyB, seed + kMultiplyB, seed,
+                          seed - kMultiplyA} {}
+
+void ContentHasher::add(std::string_view bytes) {
+    total_ += bytes.size();
     const char* at = bytes.data();
     std::size_t left = bytes.size();
-    std::uint64_t hash = seed + kMultiplyC + bytes.size();
-    if (left >= 32) {
-        std::uint64_t lanes[4] = {seed + kMultiplyA + kMultiplyB, seed + kMultiplyB, seed,
-                                  seed - kMultiplyA};
-        for (; left >= 32; at += 32, left -= 32) {
-            for (int lane = 0; lane < 4; ++lane)
-                lanes[lane] = mixLane(lanes[lane], littleEndian64(at + 8 * lane));
-        }
-        hash = std::rotl(lanes[0], 1) + std::rotl(lanes[1], 7) + std::rotl(lanes[2], 12) +
-               std::rotl(lanes[3], 18) + bytes.size();
-        for (const std::uint64_t lane : lanes)
+    if (pendingSize_ > 0) {
+        const std::size_t taken = std::min(left, sizeof pending_ - pendingSize_);
+        std::memcpy(pending_ + pendingSize_, at, taken);
+        pendingSize_ += taken;
+        at += taken;
+        left -= taken;
+        if (pendingSize_ < sizeof pending_)
+            return;
+        for (int lane = 0; lane < 4; ++lane)
+            lanes_[lane] = mixLane(lanes_[lane], littleEndian64(pending_ + 8 * lane));
+        pendingSize_ = 0;
+    }
+    // Eight bytes at a time in four independent lanes, 32 a round.
+    for (; left >= 32; at += 32, left -= 32) {
+        for (int lane = 0; lane < 4; ++lane)
+            lanes_[lane] = mixLane(lanes_[lane], littleEndian64(at + 8 * lane));
+    }
+    if (left > 0)
+        std::memcpy(pending_, at, left);
+    pendingSize_ = left;
+}
+
+std::uint64_t ContentHasher::finish() const {
+    std::uint64_t hash = seed_ + kMultiplyC + total_;
+    if (total_ >= 32) {
+        hash = std::rotl(lanes_[0], 1) + std::rotl(lanes_[1], 7) + std::rotl(lanes_[2], 12) +
+               std::rotl(lanes_[3], 18) + total_;
+        for (const std::uint64_t lane : lanes_)
             hash = (hash ^ mixLane(0, lane)) * kMultiplyA + kMultiplyC;
     }
+    // The last, unfinished stripe: eight bytes at a time, then byte by byte.
+    const char* at = pending_;
+    std::size_t left = pendingSize_;
     for (; left >= 8; at += 8, left -= 8)
         hash = std::rotl(hash ^ mixLane(0, littleEndian64(at)), 27) * kMultiplyA + kMultiplyC;
     for (; left > 0; ++at, --left)
         hash = std::rotl(hash ^ (static_cast<unsigned char>(*at) * kMultiplyC), 11) * kMultiplyA;
-    return finish(hash);
+    return avalanche(hash);
+}
+
+std::uint64_t contentHash(std::string_view bytes, std::uint64_t seed) {
+    ContentHasher hasher(seed);
+    hasher.add(bytes);
+    return hasher.finish();
 }
 
 } // namespace lettriner::board

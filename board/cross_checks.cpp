@@ -71,16 +71,16 @@ CrossCheck checkSquare(const Board& board, int row, int column, const WordGraph&
         return check;
     if (belowCount == 0) {
         // The word above, then the new letter: the DAWG's node after it.
-        check.allowed = acceptingLetters(graph, walk(graph, graph.dawgRoot(), above.data(),
-                                                     aboveCount, 1));
+        check.allowed =
+            acceptingLetters(graph, walk(graph, graph.dawgRoot(), above.data(), aboveCount, 1));
         return check;
     }
     const Letter* lastBelow = below.data() + belowCount - 1;
     if (aboveCount == 0) {
         // The word below read backwards, then the new letter: a whole word
         // reversed, which the GADDAG holds without a separator.
-        check.allowed = acceptingLetters(
-            graph, walk(graph, graph.gaddagRoot(), lastBelow, belowCount, -1));
+        check.allowed =
+            acceptingLetters(graph, walk(graph, graph.gaddagRoot(), lastBelow, belowCount, -1));
         return check;
     }
     // Tiles on both sides: try each letter the shorter side's walk leaves

@@ -3,10 +3,12 @@
 
 #include "board/content_hash.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cerrno>
 #include <chrono>
+#include <climits>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -50,10 +52,6 @@ std::uint64_t get64(const unsigned char* bytes) {
     return get32(bytes) | (std::uint64_t{get32(bytes + 4)} << 32);
 }
 
-std::uint64_t checksumOf(std::string_view file) {
-    return contentHash(file.substr(kHeaderSize), contentHash(file.substr(0, kChecksumAt)));
-}
-
 // The graph's arcs in three parts: one first byte per arc, a child index
 // word per arc whose child is not the next arc, one byte per far index.
 // Apart, every arc's first byte sits at a known place, and the other parts
@@ -67,9 +65,9 @@ struct ArcParts {
 void encodeArc(ArcParts& parts, Arc arc, std::uint32_t index) {
     const std::uint32_t child = arcChild(arc);
     const unsigned next = child != 0 && child == index + 1 ? kNextBit : 0;
-    parts.firstBytes += static_cast<char>(next + arcLetter(arc) * 4 +
-                                          (arcIsLast(arc) ? kLastBit : 0) +
-                                          (arcAccepts(arc) ? kAcceptsBit : 0));
+    parts.firstBytes +=
+        static_cast<char>(next + arcLetter(arc) * 4 + (arcIsLast(arc) ? kLastBit : 0) +
+                          (arcAccepts(arc) ? kAcceptsBit : 0));
     if (next != 0)
         return;
     const std::int64_t distance = std::int64_t{child} - std::int64_t{index};
@@ -133,14 +131,18 @@ std::uint32_t countFar(const unsigned char* indexWords, std::size_t count) {
 // must lie inside the graph. No branch depends on the data: which form an
 // arc takes is as good as random, and a mispredicted branch costs more than
 // computing every form.
-[[gnu::noinline]] std::uint32_t decodeArcs(const unsigned char* firstBytes,
-                                           const unsigned char* indexWords,
-                                           const unsigned char* farBytes, Arc* arcs,
-                                           std::uint32_t arcCount) {
+// Decodes arcs first..last-1 from their parts (whose sizes countFirstBytes
+// and countFar have confirmed, with a few bytes of padding after each) and
+// returns the highest child index met. No branch depends on the data: which
+// form an arc takes is as good as random, and a mispredicted branch costs
+// more than computing every form.
+std::uint32_t decodeArcs(const unsigned char* firstBytes, const unsigned char* indexWords,
+                         const unsigned char* farBytes, Arc* arcs, std::uint32_t first,
+                         std::uint32_t last) {
     std::uint32_t highestChild = 0;
-    for (std::uint32_t i = 2; i < arcCount; ++i) {
-        const std::uint32_t first = kFirstBytes[firstBytes[i - 2]];
-        const std::uint32_t indexed = (first & kChildIsNext) ^ 1u;
+    for (std::uint32_t i = first; i < last; ++i) {
+        const std::uint32_t bits = kFirstBytes[*firstBytes++];
+        const std::uint32_t indexed = (bits & kChildIsNext) ^ 1u;
         const std::uint32_t word = indexWords[0] | (std::uint32_t{indexWords[1]} << 8);
         const std::uint32_t far = word & indexed & kFarFlag;
         const std::uint32_t nearChild =
@@ -150,14 +152,211 @@ std::uint32_t countFar(const unsigned char* indexWords, std::size_t count) {
         const std::uint32_t indexMask = 0u - indexed;
         const std::uint32_t indexChild = (farChild & farMask) | (nearChild & ~farMask);
         const std::uint32_t child = (indexChild & indexMask) | ((i + 1) & ~indexMask);
-        // Past a part's last element the pointers stay put: the counts said
-        // how many elements the arcs take.
+        // Past a part's last element the pointers stay on the padding: the
+        // counts said how many elements the arcs take.
         indexWords += 2 * indexed;
         farBytes += far;
         highestChild = child > highestChild ? child : highestChild;
-        arcs[i] = (first & ~(kChildIsNext | kInvalid)) | child;
+        arcs[i] = (bits & ~(kChildIsNext | kInvalid)) | child;
     }
     return highestChild;
+}
+
+// Where the header says the parts lie, checked against the file's size.
+struct Layout {
+    SourceStamp stamp;
+    std::uint32_t wordCount = 0;
+    std::uint32_t arcCount = 0;
+    std::uint32_t roots[2] = {0, 0};
+    std::uint32_t indexCount = 0;
+    std::uint32_t farCount = 0;
+    std::uint32_t anagramWords = 0;
+    std::uint32_t anagramSlots = 0;
+    std::uint64_t checksum = 0;
+    // Offsets of the parts and the end.
+    std::uint64_t firstBytesAt = 0;
+    std::uint64_t indexWordsAt = 0;
+    std::uint64_t farBytesAt = 0;
+    std::uint64_t anagramAt = 0;
+    std::uint64_t end = 0;
+};
+
+// The layout of a file of `fileSize` bytes with this header, or an error.
+std::string readLayout(const unsigned char* header, std::uint64_t fileSize, Layout& layout) {
+    if (fileSize < kHeaderSize ||
+        std::string_view(reinterpret_cast<const char*>(header), kMagic.size()) != kMagic)
+        return fileSize == 0 ? "the file is empty" : "the file is not a lexicon file";
+    if (get32(header + 8) != kVersion || get32(header + 12) != kHeaderSize)
+        return "the file is a lexicon file of another version";
+    layout.stamp = {get64(header + 16), static_cast<std::int64_t>(get64(header + 24)),
+                    get64(header + 32)};
+    layout.wordCount = get32(header + 40);
+    layout.arcCount = get32(header + 44);
+    layout.roots[kDawgRootArc] = get32(header + 48);
+    layout.roots[kGaddagRootArc] = get32(header + 52);
+    layout.indexCount = get32(header + 56);
+    layout.farCount = get32(header + 60);
+    layout.anagramWords = get32(header + 64);
+    layout.anagramSlots = get32(header + 68);
+    layout.checksum = get64(header + kChecksumAt);
+    if (layout.arcCount < 2 || layout.arcCount > kMostFileArcs)
+        return "the file's arc count is impossible";
+    layout.firstBytesAt = kHeaderSize;
+    layout.indexWordsAt = layout.firstBytesAt + (layout.arcCount - 2);
+    layout.farBytesAt = layout.indexWordsAt + 2 * std::uint64_t{layout.indexCount};
+    layout.anagramAt = layout.farBytesAt + layout.farCount;
+    layout.end = layout.anagramAt + 8 * std::uint64_t{layout.anagramWords} +
+                 4 * std::uint64_t{layout.anagramSlots};
+    // The sizes must add up to the bytes there are before any memory is
+    // taken for them.
+    if (layout.end != fileSize)
+        return layout.end > fileSize ? "the file is truncated"
+                                     : "the file is longer than its parts";
+    if (layout.roots[0] >= layout.arcCount || layout.roots[1] >= layout.arcCount)
+        return "the file's roots point outside the graph";
+    return {};
+}
+
+// The checksum: contentHash of the hashes of the header's first 72 bytes,
+// the three parts of the arcs and the anagram index, each 8 bytes
+// little-endian. By parts, so that a reader can hash each part as it
+// streams in, the three of them side by side.
+std::uint64_t combinedChecksum(const std::array<std::uint64_t, 5>& hashes) {
+    std::string joined;
+    for (const std::uint64_t hash : hashes)
+        put64(joined, hash);
+    return contentHash(joined);
+}
+
+// One part of the file read front to back, from memory or from a file
+// positioned at it, its bytes hashed as they come.
+class PartReader {
+public:
+    explicit PartReader(std::string_view part) : memory_(part.data()), left_(part.size()) {}
+    PartReader(std::FILE* file, std::uint64_t length) : file_(file), left_(length) {}
+
+    // Fills `out` with the part's next `count` bytes, zeros beyond its end
+    // (a damaged count asks for more than there is: overran() then says
+    // so). False only when the file cannot be read.
+    bool read(unsigned char* out, std::size_t count) {
+        const std::size_t available =
+            static_cast<std::size_t>(std::min<std::uint64_t>(count, left_));
+        overran_ = overran_ || available < count;
+        std::fill(out + available, out + count, 0);
+        if (available == 0)
+            return true;
+        if (file_ != nullptr) {
+            if (std::fread(out, 1, available, file_) != available)
+                return false;
+        } else {
+            std::memcpy(out, memory_, available);
+            memory_ += available;
+        }
+        hasher_.add({reinterpret_cast<const char*>(out), available});
+        left_ -= available;
+        return true;
+    }
+    // Reads what is left of the part (when its counts were wrong), so that
+    // the hash covers all of it.
+    bool drain() {
+        unsigned char scratch[4096];
+        while (left_ > 0) {
+            if (!read(scratch,
+                      static_cast<std::size_t>(std::min<std::uint64_t>(left_, sizeof scratch))))
+                return false;
+        }
+        return true;
+    }
+    [[nodiscard]] bool overran() const { return overran_; }
+    [[nodiscard]] std::uint64_t hash() const { return hasher_.finish(); }
+
+private:
+    const char* memory_ = nullptr;
+    std::FILE* file_ = nullptr;
+    std::uint64_t left_;
+    bool overran_ = false;
+    ContentHasher hasher_;
+};
+
+// Decodes the parts after the header; `headerHash` is the hash of its first
+// 72 bytes. Arcs come in batches through small buffers, so the file's bytes
+// never sit in memory whole.
+DecodedLexicon decodeParts(const Layout& layout, std::uint64_t headerHash, PartReader& firstPart,
+                           PartReader& indexPart, PartReader& farPart, PartReader& anagramPart) {
+    constexpr std::uint32_t kBatch = 1u << 15;
+    constexpr std::size_t kPadding = 4;
+    DecodedLexicon result;
+    result.stamp = layout.stamp;
+    const std::uint32_t arcCount = layout.arcCount;
+    std::unique_ptr<Arc[]> arcs(new Arc[arcCount]);
+    arcs[kDawgRootArc] = layout.roots[kDawgRootArc];
+    arcs[kGaddagRootArc] = layout.roots[kGaddagRootArc];
+    const std::size_t batchBytes = std::min<std::size_t>(kBatch, arcCount);
+    std::vector<unsigned char> firstBytes(batchBytes + kPadding, 0);
+    std::vector<unsigned char> indexWords(2 * batchBytes + kPadding, 0);
+    std::vector<unsigned char> farBytes(batchBytes + kPadding, 0);
+    std::uint32_t highestChild = 0;
+    std::uint64_t indexed = 0;
+    std::uint64_t far = 0;
+    bool readable = true;
+    bool valid = true;
+    // A damaged batch is read on (not decoded), so the checksum covers the
+    // whole file and says whether the file is damaged or was forged.
+    for (std::uint32_t first = 2; first < arcCount && readable; first += kBatch) {
+        const std::uint32_t last = std::min(arcCount, first + kBatch);
+        const std::size_t count = last - first;
+        readable = firstPart.read(firstBytes.data(), count);
+        const FirstByteCounts counts = countFirstBytes(firstBytes.data(), count);
+        valid = valid && counts.invalid == 0;
+        readable = readable && indexPart.read(indexWords.data(), 2 * std::size_t{counts.indexed});
+        const std::uint32_t farCount = countFar(indexWords.data(), counts.indexed);
+        readable = readable && farPart.read(farBytes.data(), farCount);
+        indexWords[2 * std::size_t{counts.indexed}] = 0;
+        indexWords[2 * std::size_t{counts.indexed} + 1] = 0;
+        farBytes[farCount] = 0;
+        if (readable && valid) {
+            highestChild =
+                std::max(highestChild, decodeArcs(firstBytes.data(), indexWords.data(),
+                                                  farBytes.data(), arcs.get(), first, last));
+        }
+        indexed += counts.indexed;
+        far += farCount;
+    }
+    readable = readable && firstPart.drain() && indexPart.drain() && farPart.drain();
+    std::vector<PackedLetters> words(layout.anagramWords);
+    std::vector<std::uint32_t> slots(layout.anagramSlots);
+    readable = readable &&
+               anagramPart.read(reinterpret_cast<unsigned char*>(words.data()), 8 * words.size()) &&
+               anagramPart.read(reinterpret_cast<unsigned char*>(slots.data()), 4 * slots.size());
+    if (!readable) {
+        result.error = "the file cannot be read to its end";
+        return result;
+    }
+    if (combinedChecksum({headerHash, firstPart.hash(), indexPart.hash(), farPart.hash(),
+                          anagramPart.hash()}) != layout.checksum) {
+        result.error = "the file is damaged or truncated (its checksum does not match)";
+        return result;
+    }
+    if (!valid || firstPart.overran() || indexPart.overran() || farPart.overran() ||
+        indexed != layout.indexCount || far != layout.farCount || highestChild >= arcCount ||
+        (arcCount > 2 && !arcIsLast(arcs[arcCount - 1]))) {
+        result.error = "the file's graph is damaged";
+        return result;
+    }
+    if constexpr (std::endian::native == std::endian::big) {
+        for (PackedLetters& word : words)
+            word = get64(reinterpret_cast<const unsigned char*>(&word));
+        for (std::uint32_t& slot : slots)
+            slot = get32(reinterpret_cast<const unsigned char*>(&slot));
+    }
+    if (std::string problem = AnagramIndex::validate(words, slots); !problem.empty()) {
+        result.error = "the file is damaged: " + problem;
+        return result;
+    }
+    result.lexicon.graph = WordGraph(std::move(arcs), arcCount, layout.wordCount);
+    if (!words.empty())
+        result.lexicon.anagrams = AnagramIndex(std::move(words), std::move(slots));
+    return result;
 }
 
 } // namespace
@@ -211,103 +410,102 @@ std::string encodeLexiconFile(const Lexicon& lexicon, const SourceStamp& stamp) 
         put64(out, word);
     for (const std::uint32_t slot : slots)
         put32(out, slot);
-    const std::uint64_t checksum = checksumOf(out);
+    const std::uint64_t checksum = lexiconFileChecksum(out);
     for (std::size_t i = 0; i < 8; ++i)
         out[kChecksumAt + i] = static_cast<char>((checksum >> (8 * i)) & 0xFF);
     return out;
 }
 
+std::uint64_t lexiconFileChecksum(std::string_view bytes) {
+    Layout layout;
+    if (!readLayout(reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size(), layout)
+             .empty())
+        return 0;
+    const auto part = [&](std::uint64_t from, std::uint64_t to) {
+        return contentHash(bytes.substr(from, to - from));
+    };
+    return combinedChecksum(
+        {contentHash(bytes.substr(0, kChecksumAt)), part(layout.firstBytesAt, layout.indexWordsAt),
+         part(layout.indexWordsAt, layout.farBytesAt), part(layout.farBytesAt, layout.anagramAt),
+         part(layout.anagramAt, layout.end)});
+}
+
 DecodedLexicon decodeLexiconFile(std::string_view bytes) {
     DecodedLexicon result;
-    const auto* in = reinterpret_cast<const unsigned char*>(bytes.data());
-    if (bytes.size() < kHeaderSize || bytes.substr(0, kMagic.size()) != kMagic) {
-        result.error = bytes.empty() ? "the file is empty" : "the file is not a lexicon file";
+    Layout layout;
+    result.error =
+        readLayout(reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size(), layout);
+    if (!result.error.empty())
+        return result;
+    const auto part = [&](std::uint64_t from, std::uint64_t to) {
+        return PartReader(bytes.substr(from, to - from));
+    };
+    PartReader firstPart = part(layout.firstBytesAt, layout.indexWordsAt);
+    PartReader indexPart = part(layout.indexWordsAt, layout.farBytesAt);
+    PartReader farPart = part(layout.farBytesAt, layout.anagramAt);
+    PartReader anagramPart = part(layout.anagramAt, layout.end);
+    return decodeParts(layout, contentHash(bytes.substr(0, kChecksumAt)), firstPart, indexPart,
+                       farPart, anagramPart);
+}
+
+namespace {
+
+// A file opened for reading, unbuffered (the parts are read in large pieces
+// straight into their buffers), closed when it goes.
+struct OpenFile {
+    explicit OpenFile(const std::filesystem::path& path) : file(std::fopen(path.c_str(), "rb")) {
+        // Before any other use, as the C library requires.
+        if (file != nullptr && std::setvbuf(file, nullptr, _IONBF, 0) != 0) {
+            std::fclose(file);
+            file = nullptr;
+        }
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+    ~OpenFile() {
+        if (file != nullptr)
+            std::fclose(file);
+    }
+    bool seek(std::uint64_t offset) {
+        return file != nullptr && offset <= static_cast<std::uint64_t>(LONG_MAX) &&
+               std::fseek(file, static_cast<long>(offset), SEEK_SET) == 0;
+    }
+    std::FILE* file;
+};
+
+} // namespace
+
+DecodedLexicon readLexiconFileAt(const std::filesystem::path& path) {
+    DecodedLexicon result;
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    OpenFile headerFile(path);
+    unsigned char header[kHeaderSize] = {};
+    if (error || headerFile.file == nullptr) {
+        result.error = "the file cannot be read";
         return result;
     }
-    if (get32(in + 8) != kVersion || get32(in + 12) != kHeaderSize) {
-        result.error = "the file is a lexicon file of another version";
+    const std::size_t got = std::fread(header, 1, kHeaderSize, headerFile.file);
+    Layout layout;
+    result.error = readLayout(header, got < kHeaderSize ? got : size, layout);
+    if (!result.error.empty())
+        return result;
+    // Three readers side by side: the first bytes, the index words, then the
+    // far bytes and the anagram index, each part streaming through a buffer.
+    OpenFile indexFile(path);
+    OpenFile farFile(path);
+    if (!headerFile.seek(layout.firstBytesAt) || !indexFile.seek(layout.indexWordsAt) ||
+        !farFile.seek(layout.farBytesAt)) {
+        result.error = "the file cannot be read";
         return result;
     }
-    if (get64(in + kChecksumAt) != checksumOf(bytes)) {
-        result.error = "the file is damaged or truncated (its checksum does not match)";
-        return result;
-    }
-    result.stamp = {get64(in + 16), static_cast<std::int64_t>(get64(in + 24)), get64(in + 32)};
-    const std::uint32_t wordCount = get32(in + 40);
-    const std::uint32_t arcCount = get32(in + 44);
-    const std::uint32_t indexCount = get32(in + 56);
-    const std::uint32_t farCount = get32(in + 60);
-    const std::uint32_t anagramWords = get32(in + 64);
-    const std::uint32_t anagramSlots = get32(in + 68);
-    if (arcCount < 2 || arcCount > kMostFileArcs) {
-        result.error = "the file's arc count is impossible";
-        return result;
-    }
-    // The parts' sizes must add up to the bytes there are, before any memory
-    // is taken for them.
-    const std::uint64_t expected = kHeaderSize + std::uint64_t{arcCount - 2} +
-                                   2 * std::uint64_t{indexCount} + farCount +
-                                   8 * std::uint64_t{anagramWords} + 4 * std::uint64_t{anagramSlots};
-    if (expected != bytes.size()) {
-        result.error = expected > bytes.size() ? "the file is truncated"
-                                               : "the file is longer than its parts";
-        return result;
-    }
-    const std::uint32_t dawgRoot = get32(in + 48);
-    const std::uint32_t gaddagRoot = get32(in + 52);
-    if (dawgRoot >= arcCount || gaddagRoot >= arcCount) {
-        result.error = "the file's roots point outside the graph";
-        return result;
-    }
-    // The decoder reads an index word and a far byte for every arc, also
-    // past the last it uses: three bytes must follow the far part. They are
-    // the anagram index's; without one, a copy of the file brings padding.
-    const std::size_t farEnd = kHeaderSize + (arcCount - 2) + 2 * std::size_t{indexCount} + farCount;
-    std::string padded;
-    if (bytes.size() - farEnd < 3) {
-        padded.reserve(bytes.size() + 3);
-        padded.append(bytes);
-        padded.append(3, '\0');
-        in = reinterpret_cast<const unsigned char*>(padded.data());
-    }
-    const unsigned char* firstBytes = in + kHeaderSize;
-    const unsigned char* indexWords = firstBytes + (arcCount - 2);
-    const unsigned char* farBytes = indexWords + 2 * std::size_t{indexCount};
-    const FirstByteCounts counts = countFirstBytes(firstBytes, arcCount - 2);
-    if (counts.invalid != 0 || counts.indexed != indexCount ||
-        countFar(indexWords, indexCount) != farCount) {
-        result.error = "the file's graph is damaged";
-        return result;
-    }
-    std::unique_ptr<Arc[]> arcs(new Arc[arcCount]);
-    arcs[kDawgRootArc] = dawgRoot;
-    arcs[kGaddagRootArc] = gaddagRoot;
-    const std::uint32_t highestChild = decodeArcs(firstBytes, indexWords, farBytes, arcs.get(), arcCount);
-    if (highestChild >= arcCount || (arcCount > 2 && !arcIsLast(arcs[arcCount - 1]))) {
-        result.error = "the file's graph is damaged";
-        return result;
-    }
-    const unsigned char* anagramPart = farBytes + farCount;
-    std::vector<PackedLetters> words(anagramWords);
-    std::vector<std::uint32_t> slots(anagramSlots);
-    const unsigned char* slotPart = anagramPart + 8 * std::size_t{anagramWords};
-    if constexpr (std::endian::native == std::endian::little) {
-        std::memcpy(words.data(), anagramPart, 8 * words.size());
-        std::memcpy(slots.data(), slotPart, 4 * slots.size());
-    } else {
-        for (std::size_t i = 0; i < words.size(); ++i)
-            words[i] = get64(anagramPart + 8 * i);
-        for (std::size_t i = 0; i < slots.size(); ++i)
-            slots[i] = get32(slotPart + 4 * i);
-    }
-    if (std::string problem = AnagramIndex::validate(words, slots); !problem.empty()) {
-        result.error = "the file is damaged: " + problem;
-        return result;
-    }
-    result.lexicon.graph = WordGraph(std::move(arcs), arcCount, wordCount);
-    if (!words.empty())
-        result.lexicon.anagrams = AnagramIndex(std::move(words), std::move(slots));
-    return result;
+    PartReader firstPart(headerFile.file, layout.indexWordsAt - layout.firstBytesAt);
+    PartReader indexPart(indexFile.file, layout.farBytesAt - layout.indexWordsAt);
+    PartReader farPart(farFile.file, layout.anagramAt - layout.farBytesAt);
+    PartReader anagramPart(farFile.file, layout.end - layout.anagramAt);
+    const std::string_view headerBytes(reinterpret_cast<const char*>(header), kChecksumAt);
+    return decodeParts(layout, contentHash(headerBytes), firstPart, indexPart, farPart,
+                       anagramPart);
 }
 
 bool writeLexiconFile(const std::filesystem::path& path, const Lexicon& lexicon,

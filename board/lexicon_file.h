@@ -9,7 +9,8 @@
 //
 // Layout: an 80-byte header, little-endian (magic "LTRLEXIC", version,
 // header size, the stamp, the word and arc counts, the graph's two roots,
-// the sizes of the parts below, the checksum), then the graph's arcs from
+// the sizes of the parts below, the checksum of the header and of each part
+// on its own), then the graph's arcs from
 // index 2 on in three parts: one byte per arc (its letter, whether it is its
 // node's last, whether it ends a word, and whether its child is simply the
 // arc after it, which the graph's layout makes common); a 16-bit word per
@@ -60,6 +61,16 @@ struct DecodedLexicon {
 // outside `bytes`, and what comes back passed validateWordGraph and
 // AnagramIndex::validate.
 [[nodiscard]] DecodedLexicon decodeLexiconFile(std::string_view bytes);
+
+// The same, reading the file at `path` as it decodes: its parts stream
+// through small buffers, so only the lexicon itself takes memory. A file
+// that cannot be opened or read gives "the file cannot be read".
+[[nodiscard]] DecodedLexicon readLexiconFileAt(const std::filesystem::path& path);
+
+// The checksum a lexicon file with these bytes must carry (0 when the
+// header is not one): what encodeLexiconFile writes, and what tests and
+// fuzzers use to forge files that get past it.
+[[nodiscard]] std::uint64_t lexiconFileChecksum(std::string_view bytes);
 
 // Writes the file whole: to PATH.new, then renamed over PATH, so a reader
 // never sees half a file. False with `error` set on any failure (the old file

@@ -53,13 +53,7 @@ LexiconFileCheck readLexiconFile(const std::filesystem::path& lexiconFile,
         check.problem = nameOf(lexiconFile) + " is missing";
         return check;
     }
-    const std::optional<FileBytes> bytes = readWhole(lexiconFile, 4 * kLargestWordList);
-    if (!bytes) {
-        check.state = LexiconFileState::Damaged;
-        check.problem = nameOf(lexiconFile) + " cannot be read or is far too large";
-        return check;
-    }
-    DecodedLexicon decoded = decodeLexiconFile(bytes->view());
+    DecodedLexicon decoded = readLexiconFileAt(lexiconFile);
     if (!decoded.error.empty()) {
         check.state = LexiconFileState::Damaged;
         check.problem = nameOf(lexiconFile) + " is damaged: " + decoded.error;
@@ -67,8 +61,8 @@ LexiconFileCheck readLexiconFile(const std::filesystem::path& lexiconFile,
     }
     const std::uintmax_t listSize = std::filesystem::file_size(wordListFile, error);
     const std::optional<std::int64_t> listTime = modificationTime(wordListFile);
-    bool current = !error && listTime && listSize == decoded.stamp.size &&
-                   *listTime == decoded.stamp.modified;
+    bool current =
+        !error && listTime && listSize == decoded.stamp.size && *listTime == decoded.stamp.modified;
     if (!current && !error && listSize == decoded.stamp.size) {
         const std::optional<FileBytes> list = readWhole(wordListFile, kLargestWordList);
         current = list && stampOfBytes(list->view(), 0).hash == decoded.stamp.hash;

@@ -35,9 +35,7 @@ struct LexiconFileCheck {
     std::string problem;
 };
 
-// Reads the lexicon file and checks it against the word list file. A file
-// larger than any word list gives (4 times kLargestWordList) counts as
-// damaged without being read.
+// Reads the lexicon file and checks it against the word list file.
 [[nodiscard]] LexiconFileCheck readLexiconFile(const std::filesystem::path& lexiconFile,
                                                const std::filesystem::path& wordListFile);
 

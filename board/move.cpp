@@ -9,6 +9,16 @@ int Move::laidCount() const {
     return std::popcount(laid);
 }
 
+std::vector<LaidTile> laidTiles(const Move& move) {
+    std::vector<LaidTile> tiles;
+    for (int i = 0; i < move.length; ++i) {
+        if (move.isLaid(i))
+            tiles.push_back(
+                {move.rowOf(i), move.columnOf(i), move.word[static_cast<std::size_t>(i)]});
+    }
+    return tiles;
+}
+
 void applyMove(Board& board, const Move& move) {
     for (int i = 0; i < move.length; ++i) {
         if (move.isLaid(i))

@@ -12,6 +12,7 @@
 #include <array>
 #include <compare>
 #include <cstdint>
+#include <vector>
 
 namespace lettriner::board {
 
@@ -34,6 +35,17 @@ struct Move {
     }
     friend bool operator==(const Move&, const Move&) = default;
 };
+
+// A tile a move lays, and where.
+struct LaidTile {
+    int row = 0;
+    int column = 0;
+    Tile tile = kEmpty; // a letter, with kBlankBit for a blank
+    friend bool operator==(const LaidTile&, const LaidTile&) = default;
+};
+
+// The tiles a move lays, in word order.
+[[nodiscard]] std::vector<LaidTile> laidTiles(const Move& move);
 
 // Lays the move's tiles on the board (the board's own tiles stay as they are).
 void applyMove(Board& board, const Move& move);

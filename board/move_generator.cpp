@@ -33,8 +33,7 @@ public:
     Walker(const WordGraph& graph, const Rack& rack, const TileValues& values,
            const MoveFilter& filter, MoveRecorder& recorder)
         : arcs_(graph.data()), gaddagRoot_(graph.gaddagRoot()), recorder_(recorder),
-          mandatory_(filter.mandatory), minimumScore_(filter.minimumScore),
-          rackSize_(rack.size()) {
+          mandatory_(filter.mandatory), minimumScore_(filter.minimumScore), rackSize_(rack.size()) {
         for (int i = 0; i < rack.size(); ++i)
             ++counts_[rack[i]];
         blanks_ = counts_[kRackBlank];
@@ -48,7 +47,8 @@ public:
             int value = rack[i] == kRackBlank ? 0 : values_[rack[i]];
             int at = i;
             for (; at > 0 && rackValues_[static_cast<std::size_t>(at - 1)] < value; --at)
-                rackValues_[static_cast<std::size_t>(at)] = rackValues_[static_cast<std::size_t>(at - 1)];
+                rackValues_[static_cast<std::size_t>(at)] =
+                    rackValues_[static_cast<std::size_t>(at - 1)];
             rackValues_[static_cast<std::size_t>(at)] = value;
         }
     }
@@ -133,7 +133,8 @@ private:
                 }
                 if (blanks_ != 0) {
                     --blanks_;
-                    spelled_[static_cast<std::size_t>(length)] = static_cast<Tile>(letter | kBlankBit);
+                    spelled_[static_cast<std::size_t>(length)] =
+                        static_cast<Tile>(letter | kBlankBit);
                     spelledOn(length + 1, arc);
                     ++blanks_;
                 }
@@ -213,7 +214,8 @@ private:
                 continue;
             }
             const Tile tile = word_[static_cast<std::size_t>(position)];
-            const int laidValue = (isBlank(tile) ? 0 : values_[letterOf(tile)]) * square.letterMultiplier;
+            const int laidValue =
+                (isBlank(tile) ? 0 : values_[letterOf(tile)]) * square.letterMultiplier;
             ++laid_;
             mainSum_ += laidValue;
             wordMultiplier_ *= square.wordMultiplier;
@@ -229,9 +231,7 @@ private:
 
     [[nodiscard]] int threshold() const { return std::max(recorder_.threshold(), minimumScore_); }
 
-    [[nodiscard]] LetterMask available() const {
-        return blanks_ != 0 ? kAllLetters : rackLetters_;
-    }
+    [[nodiscard]] LetterMask available() const { return blanks_ != 0 ? kAllLetters : rackLetters_; }
 
     // Where a walk over a stretch starts. Any square will do, since the
     // stretch fixes the word's place: the end of a run of board tiles, whose
@@ -273,11 +273,13 @@ private:
         int open = 0;
         for (int position = pivot_; position >= stretchStart_; --position) {
             if (squares_[position].tile == kEmpty)
-                order[static_cast<std::size_t>(open++)] = multipliers_[static_cast<std::size_t>(position)];
+                order[static_cast<std::size_t>(open++)] =
+                    multipliers_[static_cast<std::size_t>(position)];
         }
         for (int position = pivot_ + 1; position <= stretchEnd_; ++position) {
             if (squares_[position].tile == kEmpty)
-                order[static_cast<std::size_t>(open++)] = multipliers_[static_cast<std::size_t>(position)];
+                order[static_cast<std::size_t>(open++)] =
+                    multipliers_[static_cast<std::size_t>(position)];
         }
         for (int laid = 0; laid <= open; ++laid) {
             auto& still = stillOpen_[static_cast<std::size_t>(laid)];
@@ -285,9 +287,10 @@ private:
             std::copy(order.begin() + laid, order.begin() + open, still.begin());
             std::sort(still.begin(), still.end(), std::greater<>());
         }
-        stretchKey_ = placeKey(0, direction_ == Direction::Across ? line_ : stretchStart_,
-                               direction_ == Direction::Across ? stretchStart_ : line_, direction_) &
-                      0xFFFFFFFFu;
+        stretchKey_ =
+            placeKey(0, direction_ == Direction::Across ? line_ : stretchStart_,
+                     direction_ == Direction::Across ? stretchStart_ : line_, direction_) &
+            0xFFFFFFFFu;
         tileSum_ = 0;
         usedValues_ = 0;
     }
@@ -297,7 +300,8 @@ private:
     // rack's best remaining values on the best remaining squares.
     [[nodiscard]] bool stretchCanReach(int position, int value, int laidBefore) const {
         const auto& still = stillOpen_[static_cast<std::size_t>(laidBefore + 1)];
-        int best = stretchFixed_ + tileSum_ + value * multipliers_[static_cast<std::size_t>(position)];
+        int best =
+            stretchFixed_ + tileSum_ + value * multipliers_[static_cast<std::size_t>(position)];
         bool skipped = false;
         int next = 0;
         for (int i = 0; i < rackSize_ && still[static_cast<std::size_t>(next)] != 0; ++i) {
@@ -341,8 +345,7 @@ private:
 
     // Lays the tiles the node allows on the empty square `position`, each
     // letter once from the rack and once as a blank, and goes on with `next`.
-    template <bool Leftward, bool OnStretch>
-    void layEach(int position, std::uint32_t node) {
+    template <bool Leftward, bool OnStretch> void layEach(int position, std::uint32_t node) {
         const LineSquare& square = squares_[position];
         const LetterMask possible = square.allowed & available();
         if (possible == 0)
@@ -370,14 +373,16 @@ private:
                     if (!OnStretch || stretchCanReach(position, value, laidBefore)) {
                         const int laidValue = value * letterMultiplier;
                         mainSum_ = savedMain + laidValue;
-                        crossSum_ = crossWord ? savedCross + (square.crossScore + laidValue) * wordMultiplier
+                        crossSum_ = crossWord ? savedCross +
+                                                    (square.crossScore + laidValue) * wordMultiplier
                                               : savedCross;
                         word_[position] = letter;
                         if (--counts_[letter] == 0)
                             rackLetters_ &= ~maskOf(letter);
                         unsigned used = 0;
                         if constexpr (OnStretch) {
-                            tileSum_ = savedTiles + value * multipliers_[static_cast<std::size_t>(position)];
+                            tileSum_ = savedTiles +
+                                       value * multipliers_[static_cast<std::size_t>(position)];
                             used = useValue(value);
                         }
                         next<Leftward>(position, arc);
@@ -388,8 +393,8 @@ private:
                 }
                 if (blanks_ != 0 && blankCanReach) {
                     mainSum_ = savedMain;
-                    crossSum_ = crossWord ? savedCross + square.crossScore * wordMultiplier
-                                          : savedCross;
+                    crossSum_ =
+                        crossWord ? savedCross + square.crossScore * wordMultiplier : savedCross;
                     word_[position] = static_cast<Tile>(letter | kBlankBit);
                     --blanks_;
                     unsigned used = 0;
@@ -413,16 +418,14 @@ private:
         tileSum_ = savedTiles;
     }
 
-    template <bool Leftward>
-    void next(int position, Arc arc) {
+    template <bool Leftward> void next(int position, Arc arc) {
         if constexpr (Leftward)
             afterLeft(position, arc);
         else
             afterRight(position, arc);
     }
 
-    template <bool Leftward>
-    void layOn(int position, std::uint32_t node) {
+    template <bool Leftward> void layOn(int position, std::uint32_t node) {
         if (onStretch_)
             layEach<Leftward, true>(position, node);
         else
@@ -526,7 +529,8 @@ private:
         if (mandatory_ != 0) {
             LetterMask laidLetters = 0;
             for (unsigned bits = laidPositions_; bits != 0; bits &= bits - 1)
-                laidLetters |= maskOf(letterOf(word_[static_cast<std::size_t>(std::countr_zero(bits))]));
+                laidLetters |=
+                    maskOf(letterOf(word_[static_cast<std::size_t>(std::countr_zero(bits))]));
             if ((laidLetters & mandatory_) != mandatory_)
                 return;
         }
@@ -590,8 +594,7 @@ private:
 
 // Every anchor of the lines, with the previous anchor of its line as the
 // limit of its walk to the left.
-template <typename Visit>
-void forEachAnchor(const PlayLines& lines, Visit visit) {
+template <typename Visit> void forEachAnchor(const PlayLines& lines, Visit visit) {
     for (int line = 0; line < kBoardSize; ++line) {
         int leftLimit = -1;
         const auto& squares = lines.lines[static_cast<std::size_t>(line)].squares;
@@ -666,13 +669,16 @@ void generateMoves(const Board& board, const Rack& rack, const Lexicon& lexicon,
         // reach the minimum score.
         const bool bounded = filter.minimumScore > INT_MIN || recorder.threshold() > INT_MIN;
         for (int d = 0; d < directions; ++d) {
-            forEachAnchor(lines[static_cast<std::size_t>(d)], [&](int line, int anchor, int leftLimit) {
-                const PlayLine& playLine = lines[static_cast<std::size_t>(d)].lines[static_cast<std::size_t>(line)];
+            forEachAnchor(lines[static_cast<std::size_t>(d)], [&](int line, int anchor,
+                                                                  int leftLimit) {
+                const PlayLine& playLine =
+                    lines[static_cast<std::size_t>(d)].lines[static_cast<std::size_t>(line)];
                 if (bounded && anchorScoreBound(playLine, anchor, leftLimit, available, rackTiles) <
                                    std::max(filter.minimumScore, recorder.threshold()))
                     return;
-                walker.walk(lines[static_cast<std::size_t>(d)],
-                            {lines[static_cast<std::size_t>(d)].direction, line, anchor, leftLimit});
+                walker.walk(
+                    lines[static_cast<std::size_t>(d)],
+                    {lines[static_cast<std::size_t>(d)].direction, line, anchor, leftLimit});
             });
         }
         return;
@@ -693,15 +699,19 @@ void generateMoves(const Board& board, const Rack& rack, const Lexicon& lexicon,
                 if (stretch.bound < filter.minimumScore)
                     continue;
                 const bool across = dirLines.direction == Direction::Across;
-                const std::uint64_t key = placeKey(stretch.bound, across ? line : stretch.start,
-                                                   across ? stretch.start : line, dirLines.direction);
-                tasks.push_back({key,
-                                 {dirLines.direction, line, anchor, leftLimit, stretch.start, stretch.end},
-                                 stretch.open});
+                const std::uint64_t key =
+                    placeKey(stretch.bound, across ? line : stretch.start,
+                             across ? stretch.start : line, dirLines.direction);
+                tasks.push_back(
+                    {key,
+                     {dirLines.direction, line, anchor, leftLimit, stretch.start, stretch.end},
+                     stretch.open});
             }
         });
     }
-    const auto later = [](const StretchTask& a, const StretchTask& b) { return a.key > b.key; };
+    const auto later = [](const StretchTask& a, const StretchTask& b) {
+        return a.key > b.key;
+    };
     std::make_heap(tasks.begin(), tasks.end(), later);
     // The words of the whole rack and a stretch's board letters, by those
     // letters, each set looked up once.
@@ -736,9 +746,9 @@ void generateMoves(const Board& board, const Rack& rack, const Lexicon& lexicon,
         auto found = std::find_if(wholeRackWords.begin(), wholeRackWords.end(),
                                   [&](const auto& entry) { return entry.first == boardLetters; });
         if (found == wholeRackWords.end()) {
-            wholeRackWords.emplace_back(boardLetters,
-                                        anagramsOf(lexicon.anagrams, rackLetters + boardLetters,
-                                                   rack.blanks()));
+            wholeRackWords.emplace_back(
+                boardLetters,
+                anagramsOf(lexicon.anagrams, rackLetters + boardLetters, rack.blanks()));
             found = wholeRackWords.end() - 1;
         }
         walker.fitWords(taskLines, task.task, found->second);
@@ -753,8 +763,7 @@ std::vector<Move> allMoves(const Board& board, const Rack& rack, const Lexicon& 
 }
 
 std::vector<Move> bestMoves(const Board& board, const Rack& rack, const Lexicon& lexicon,
-                            const TileValues& values, std::size_t count,
-                            const MoveFilter& filter) {
+                            const TileValues& values, std::size_t count, const MoveFilter& filter) {
     BestMovesRecorder recorder(count);
     generateMoves(board, rack, lexicon, values, filter, recorder);
     return recorder.takeSorted();

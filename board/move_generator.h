@@ -6,7 +6,15 @@
 // laying only letters the square's cross-check allows. Each move comes from
 // exactly one anchor: the leftmost anchor square it lays a tile on, since a
 // walk never lays a tile on an anchor left of its own. Scores are summed as
-// the tiles are laid (cross-scores make the cross words cheap).
+// the tiles are laid (cross-scores make the cross words cheap). On an empty
+// board every word the rack spells comes from one DAWG walk instead.
+//
+// For "best N" the walks go by stretch, the span a move's main word covers:
+// every stretch gets an upper bound on its score (score_bounds.h), the
+// highest are walked first, each walk is cut as soon as its tiles cannot
+// reach the moves kept, and the search ends when no stretch left can. A
+// stretch that lays the whole rack over 7 or 8 squares takes its words from
+// the lexicon's anagram index instead of a walk.
 //
 // Rules as the German edition has them: a move lays 1 to 7 tiles in one line
 // without gaps other than board tiles; on an empty board it covers H8 and
@@ -15,11 +23,11 @@
 // letter and a real tile of it give two moves. An empty rack has no moves.
 
 #include "board/board.h"
+#include "board/lexicon.h"
 #include "board/move.h"
 #include "board/move_recorder.h"
 #include "board/rack.h"
 #include "board/tile_values.h"
-#include "board/lexicon.h"
 
 #include <climits>
 #include <cstddef>

@@ -50,6 +50,7 @@ private:
 // Keeps every move, in the order found.
 class AllMovesRecorder final : public MoveRecorder {
 public:
+    AllMovesRecorder() { moves_.reserve(1024); }
     void record(const Move& move) override { moves_.push_back(move); }
     [[nodiscard]] const std::vector<Move>& moves() const { return moves_; }
     // The moves in the move order (move.h), leaving the recorder empty.

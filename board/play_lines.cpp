@@ -32,8 +32,8 @@ PlayLines playLines(const Board& board, Direction direction, const WordGraph& gr
             square.crossScore = check.score;
             square.crossTiles = check.boardTiles;
             if (emptyBoard) {
-                square.anchor = direction == Direction::Across && line == kCentre &&
-                                position == kCentre;
+                square.anchor =
+                    direction == Direction::Across && line == kCentre && position == kCentre;
             } else {
                 square.anchor = oriented.at(line - 1, position) != kEmpty ||
                                 oriented.at(line + 1, position) != kEmpty ||

@@ -40,8 +40,7 @@ struct PlayLines {
 // `forbidden` letters are allowed nowhere. On an empty board only the
 // centre is an anchor, and only for moves across: the lines for moves down
 // then have no anchor at all.
-[[nodiscard]] PlayLines playLines(const Board& board, Direction direction,
-                                  const WordGraph& graph, const TileValues& values,
-                                  LetterMask forbidden);
+[[nodiscard]] PlayLines playLines(const Board& board, Direction direction, const WordGraph& graph,
+                                  const TileValues& values, LetterMask forbidden);
 
 } // namespace lettriner::board

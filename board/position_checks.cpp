@@ -55,8 +55,9 @@ PositionWarnings checkPosition(const Board& board, const Rack& rack, const WordG
         if (reached[index])
             continue;
         reached[index] = true;
-        for (const Square next : {Square{square.row - 1, square.column}, Square{square.row + 1, square.column},
-                                  Square{square.row, square.column - 1}, Square{square.row, square.column + 1}}) {
+        for (const Square next :
+             {Square{square.row - 1, square.column}, Square{square.row + 1, square.column},
+              Square{square.row, square.column - 1}, Square{square.row, square.column + 1}}) {
             if (board.at(next.row, next.column) != kEmpty)
                 pending.push_back(next);
         }

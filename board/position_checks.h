@@ -36,10 +36,10 @@ struct ExcessTiles {
 };
 
 struct PositionWarnings {
-    std::vector<BoardWord> unknownWords;   // runs of two or more tiles, in board order
-    bool centreEmpty = false;              // the board has tiles but none on H8
-    std::vector<Square> unconnectedTiles;  // not reached from H8 through tiles
-    std::vector<ExcessTiles> excessTiles;  // in letter order, blanks first
+    std::vector<BoardWord> unknownWords;  // runs of two or more tiles, in board order
+    bool centreEmpty = false;             // the board has tiles but none on H8
+    std::vector<Square> unconnectedTiles; // not reached from H8 through tiles
+    std::vector<ExcessTiles> excessTiles; // in letter order, blanks first
     [[nodiscard]] bool empty() const {
         return unknownWords.empty() && !centreEmpty && unconnectedTiles.empty() &&
                excessTiles.empty();

@@ -46,7 +46,8 @@ std::u32string decodeUtf8(std::string_view bytes, bool* valid = nullptr) {
             code = (code << 6) | (byte & 0x3Fu);
         }
         const char32_t least = length == 2 ? 0x80 : length == 3 ? 0x800 : 0x10000;
-        if (!continuation || code < least || code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF)) {
+        if (!continuation || code < least || code > 0x10FFFF ||
+            (code >= 0xD800 && code <= 0xDFFF)) {
             bad();
             ++at;
             continue;
@@ -153,8 +154,7 @@ BoardRead readBoardFile(std::string_view bytes) {
         }
         if (line.size() != kBoardSize) {
             result.error = "line " + std::to_string(row + 1) + " has " +
-                           count(line.size(), "character", "characters") +
-                           "; a board line has 15";
+                           count(line.size(), "character", "characters") + "; a board line has 15";
             return result;
         }
     }
@@ -190,8 +190,8 @@ RackRead readRack(std::string_view text) {
             }
         }
         if (!result.rack.add(tile)) {
-            result.error = "the rack has " + std::to_string(characters.size()) +
-                           " tiles; it holds at most 7";
+            result.error =
+                "the rack has " + std::to_string(characters.size()) + " tiles; it holds at most 7";
             return result;
         }
     }
@@ -208,7 +208,9 @@ std::string rackText(const Rack& rack) {
 PositionRead readCgp(std::string_view bytes) {
     PositionRead result;
     const std::u32string text = decodeUtf8(bytes);
-    const auto isSpace = [](char32_t c) { return c == U' ' || c == U'\t' || c == U'\r' || c == U'\n'; };
+    const auto isSpace = [](char32_t c) {
+        return c == U' ' || c == U'\t' || c == U'\r' || c == U'\n';
+    };
     std::size_t at = 0;
     while (at < text.size() && isSpace(text[at]))
         ++at;
@@ -216,7 +218,9 @@ PositionRead readCgp(std::string_view bytes) {
         result.error = "the position is empty";
         return result;
     }
-    const auto where = [&](std::size_t index) { return "column " + std::to_string(index + 1); };
+    const auto where = [&](std::size_t index) {
+        return "column " + std::to_string(index + 1);
+    };
     int row = 0;
     int column = 0;
     for (;;) {
@@ -251,23 +255,23 @@ PositionRead readCgp(std::string_view bytes) {
             }
             column += run;
             if (column > kBoardSize) {
-                result.error = "row " + std::to_string(row + 1) + " of the position has more than 15 squares (" +
-                               where(first) + ")";
+                result.error = "row " + std::to_string(row + 1) +
+                               " of the position has more than 15 squares (" + where(first) + ")";
                 return result;
             }
             continue;
         }
         const std::optional<Tile> tile = tileOf(character);
         if (!tile || *tile == kEmpty) {
-            result.error = where(at) + " (row " + std::to_string(row + 1) + "): " +
-                           characterShown(character) +
+            result.error = where(at) + " (row " + std::to_string(row + 1) +
+                           "): " + characterShown(character) +
                            " is not a tile (a letter a tile, a lower-case letter a blank, a "
                            "number empty squares)";
             return result;
         }
         if (column == kBoardSize) {
-            result.error = "row " + std::to_string(row + 1) + " of the position has more than 15 squares (" +
-                           where(at) + ")";
+            result.error = "row " + std::to_string(row + 1) +
+                           " of the position has more than 15 squares (" + where(at) + ")";
             return result;
         }
         result.position.board.set(row, column++, *tile);

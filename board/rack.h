@@ -19,7 +19,9 @@ public:
     bool add(Letter tile);
     [[nodiscard]] int size() const { return size_; }
     [[nodiscard]] bool empty() const { return size_ == 0; }
-    [[nodiscard]] Letter operator[](int index) const { return tiles_[static_cast<std::size_t>(index)]; }
+    [[nodiscard]] Letter operator[](int index) const {
+        return tiles_[static_cast<std::size_t>(index)];
+    }
     [[nodiscard]] int blanks() const { return counts_[kRackBlank]; }
     // How many tiles of a letter (kRackBlank: blanks).
     [[nodiscard]] int count(Letter letter) const {

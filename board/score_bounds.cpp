@@ -36,15 +36,18 @@ int boundOf(const Stretch& stretch, const RackValues& rack) {
     for (int i = 0; i < stretch.openCount; ++i) {
         const OpenSquare& square = stretch.open[static_cast<std::size_t>(i)];
         // A tile's value counts in the main word and, when there is one, in its cross word.
-        const int multiplier = square.letterMultiplier * (wordMultiplier + square.crossWordMultiplier);
+        const int multiplier =
+            square.letterMultiplier * (wordMultiplier + square.crossWordMultiplier);
         int at = i;
         for (; at > 0 && multipliers[static_cast<std::size_t>(at - 1)] < multiplier; --at)
-            multipliers[static_cast<std::size_t>(at)] = multipliers[static_cast<std::size_t>(at - 1)];
+            multipliers[static_cast<std::size_t>(at)] =
+                multipliers[static_cast<std::size_t>(at - 1)];
         multipliers[static_cast<std::size_t>(at)] = multiplier;
     }
     int tiles = 0;
     for (int i = 0; i < stretch.openCount; ++i)
-        tiles += multipliers[static_cast<std::size_t>(i)] * rack.descending[static_cast<std::size_t>(i)];
+        tiles +=
+            multipliers[static_cast<std::size_t>(i)] * rack.descending[static_cast<std::size_t>(i)];
     const int bonus = stretch.openCount == kRackSize ? kBonus : 0;
     return stretch.boardTiles * wordMultiplier + fixed + tiles + bonus;
 }
@@ -89,9 +92,9 @@ void anchorStretches(const PlayLine& line, int anchor, int leftLimit, LetterMask
             Stretch stretch = left;
             for (int end = anchor;;) {
                 if (end == kBoardSize - 1 || square(end + 1).tile == kEmpty) {
-                    stretches.push_back({static_cast<std::int8_t>(start), static_cast<std::int8_t>(end),
-                                         static_cast<std::int8_t>(stretch.openCount),
-                                         boundOf(stretch, rack)});
+                    stretches.push_back(
+                        {static_cast<std::int8_t>(start), static_cast<std::int8_t>(end),
+                         static_cast<std::int8_t>(stretch.openCount), boundOf(stretch, rack)});
                 }
                 if (++end == kBoardSize)
                     break;

@@ -71,15 +71,6 @@ PlacementScore scorePlacement(const Board& board, std::span<const LaidTile> tile
     return result;
 }
 
-std::vector<LaidTile> laidTiles(const Move& move) {
-    std::vector<LaidTile> tiles;
-    for (int i = 0; i < move.length; ++i) {
-        if (move.isLaid(i))
-            tiles.push_back({move.rowOf(i), move.columnOf(i), move.word[static_cast<std::size_t>(i)]});
-    }
-    return tiles;
-}
-
 std::vector<FormedWord> crossWords(const Board& board, const Move& move, const TileValues& values) {
     const std::vector<LaidTile> tiles = laidTiles(move);
     PlacementScore scored = scorePlacement(board, tiles, move.direction, values);

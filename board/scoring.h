@@ -17,13 +17,6 @@
 
 namespace lettriner::board {
 
-struct LaidTile {
-    int row = 0;
-    int column = 0;
-    Tile tile = kEmpty; // a letter, with kBlankBit for a blank
-    friend bool operator==(const LaidTile&, const LaidTile&) = default;
-};
-
 struct FormedWord {
     int row = 0; // first square
     int column = 0;
@@ -43,9 +36,6 @@ struct PlacementScore {
 // the window's checked placements are). No tiles: no words, score 0.
 [[nodiscard]] PlacementScore scorePlacement(const Board& board, std::span<const LaidTile> tiles,
                                             Direction direction, const TileValues& values);
-
-// The tiles a move lays, in word order.
-[[nodiscard]] std::vector<LaidTile> laidTiles(const Move& move);
 
 // The words a move forms besides its main word, in word order.
 [[nodiscard]] std::vector<FormedWord> crossWords(const Board& board, const Move& move,

@@ -9,11 +9,11 @@ namespace {
 constexpr unsigned char kUmlautCapitals[3] = {0xC4, 0xD6, 0xDC};
 
 constexpr std::string_view kUpperUtf8[kLetterCount + 1] = {
-    "?", "A", "B", "C", "D", "E", "F", "G", "H", "I", "J", "K", "L", "M", "N", "O",
-    "P", "Q", "R", "S", "T", "U", "V", "W", "X", "Y", "Z", "\xC3\x84", "\xC3\x96", "\xC3\x9C"};
+    "?", "A", "B", "C", "D", "E", "F", "G", "H", "I", "J", "K", "L",        "M",        "N",
+    "O", "P", "Q", "R", "S", "T", "U", "V", "W", "X", "Y", "Z", "\xC3\x84", "\xC3\x96", "\xC3\x9C"};
 constexpr std::string_view kLowerUtf8[kLetterCount + 1] = {
-    "?", "a", "b", "c", "d", "e", "f", "g", "h", "i", "j", "k", "l", "m", "n", "o",
-    "p", "q", "r", "s", "t", "u", "v", "w", "x", "y", "z", "\xC3\xA4", "\xC3\xB6", "\xC3\xBC"};
+    "?", "a", "b", "c", "d", "e", "f", "g", "h", "i", "j", "k", "l",        "m",        "n",
+    "o", "p", "q", "r", "s", "t", "u", "v", "w", "x", "y", "z", "\xC3\xA4", "\xC3\xB6", "\xC3\xBC"};
 
 } // namespace
 
@@ -43,6 +43,22 @@ CharacterLetter letterFromCharacter(char32_t character) {
     if (character > 0xFF)
         return {};
     return {letterFromWindows1252(static_cast<unsigned char>(character)), false};
+}
+
+LetterMask lettersIn(std::string_view utf8) {
+    LetterMask mask = 0;
+    for (std::size_t i = 0; i < utf8.size(); ++i) {
+        char32_t character = static_cast<unsigned char>(utf8[i]);
+        // Ä Ö Ü and ä ö ü are the only letters beyond ASCII: two bytes, C3 then the low bits.
+        if (character == 0xC3 && i + 1 < utf8.size())
+            character = 0xC0u | (static_cast<unsigned char>(utf8[++i]) & 0x3Fu);
+        else if (character >= 0x80)
+            continue;
+        const Letter letter = letterFromCharacter(character).letter;
+        if (letter != kNoLetter)
+            mask |= maskOf(letter);
+    }
+    return mask;
 }
 
 std::string_view letterUtf8(Letter letter, bool lowerCase) {

@@ -28,9 +28,15 @@ inline constexpr int kBoardSize = 15;
 using LetterMask = std::uint32_t;
 inline constexpr LetterMask kAllLetters = ((LetterMask{1} << (kLetterCount + 1)) - 1) & ~1u;
 
-[[nodiscard]] constexpr Letter letterOf(Tile tile) { return tile & kLetterBits; }
-[[nodiscard]] constexpr bool isBlank(Tile tile) { return (tile & kBlankBit) != 0; }
-[[nodiscard]] constexpr LetterMask maskOf(Letter letter) { return LetterMask{1} << letter; }
+[[nodiscard]] constexpr Letter letterOf(Tile tile) {
+    return tile & kLetterBits;
+}
+[[nodiscard]] constexpr bool isBlank(Tile tile) {
+    return (tile & kBlankBit) != 0;
+}
+[[nodiscard]] constexpr LetterMask maskOf(Letter letter) {
+    return LetterMask{1} << letter;
+}
 
 // The letter of an upper-case Windows-1252 code (A-Z, Ä Ö Ü); kNoLetter for
 // every other byte, lower case included.
@@ -45,6 +51,10 @@ struct CharacterLetter {
     bool lowerCase = false;
 };
 [[nodiscard]] CharacterLetter letterFromCharacter(char32_t character);
+
+// The letters in UTF-8 text, either case (a filter's letters: "en" and "EN"
+// alike); characters that name no letter are left out.
+[[nodiscard]] LetterMask lettersIn(std::string_view utf8);
 
 // The letter as UTF-8, upper case or lower case; "?" for kNoLetter.
 [[nodiscard]] std::string_view letterUtf8(Letter letter, bool lowerCase = false);

@@ -33,10 +33,18 @@ inline constexpr std::uint32_t kGaddagRootArc = 1;
 // 24 bits of child index: 16 million arcs, 64 MB.
 inline constexpr std::uint32_t kMostArcs = std::uint32_t{1} << 24;
 
-[[nodiscard]] constexpr std::uint32_t arcChild(Arc arc) { return arc & 0xFFFFFFu; }
-[[nodiscard]] constexpr bool arcAccepts(Arc arc) { return (arc >> 24) & 1u; }
-[[nodiscard]] constexpr bool arcIsLast(Arc arc) { return (arc >> 25) & 1u; }
-[[nodiscard]] constexpr Letter arcLetter(Arc arc) { return static_cast<Letter>(arc >> 26); }
+[[nodiscard]] constexpr std::uint32_t arcChild(Arc arc) {
+    return arc & 0xFFFFFFu;
+}
+[[nodiscard]] constexpr bool arcAccepts(Arc arc) {
+    return (arc >> 24) & 1u;
+}
+[[nodiscard]] constexpr bool arcIsLast(Arc arc) {
+    return (arc >> 25) & 1u;
+}
+[[nodiscard]] constexpr Letter arcLetter(Arc arc) {
+    return static_cast<Letter>(arc >> 26);
+}
 [[nodiscard]] constexpr Arc makeArc(Letter letter, bool accepts, bool last, std::uint32_t child) {
     return (Arc{letter} << 26) | (Arc{last} << 25) | (Arc{accepts} << 24) | child;
 }

@@ -206,7 +206,7 @@ std::uint32_t nodeLength(const std::vector<Arc>& arcs, std::uint32_t start) {
 
 // Lays the nodes out again, each followed by the child of its last arc when
 // no other node claimed that place first: the file then stores most arcs
-// without a child index (word_graph_file.h), and a walk down the graph reads
+// without a child index (lexicon_file.h), and a walk down the graph reads
 // memory in order.
 std::vector<Arc> layOutDepthFirst(const std::vector<Arc>& arcs) {
     std::vector<std::uint32_t> newStart(arcs.size(), 0);

@@ -59,13 +59,15 @@ LetterString letterPool() {
 std::vector<LetterString> smallLexicon(unsigned seed) {
     std::mt19937 random(seed);
     const LetterString pool = letterPool();
-    const auto randomLetter = [&] { return pool[random() % pool.size()]; };
+    const auto randomLetter = [&] {
+        return pool[random() % pool.size()];
+    };
     std::set<LetterString> words;
     // Two-letter words make parallel plays common.
     for (int i = 0; i < 60; ++i)
         words.insert(LetterString{randomLetter(), randomLetter()});
     // Stems with endings and a front letter make hooks and extensions.
-    const LetterString endings[] = {lettersOf("E"), lettersOf("N"), lettersOf("EN"),
+    const LetterString endings[] = {lettersOf("E"),  lettersOf("N"), lettersOf("EN"),
                                     lettersOf("ER"), lettersOf("S"), lettersOf("TE")};
     for (int i = 0; i < 140; ++i) {
         LetterString stem;

@@ -115,13 +115,15 @@ std::vector<Move> referenceMoves(const Board& board, const Rack& rack,
                     }
                     if (!touches || open.empty() || static_cast<int>(open.size()) > rack.size())
                         continue;
-                    for (const LetterString* candidate : byLength[static_cast<std::size_t>(length)]) {
+                    for (const LetterString* candidate :
+                         byLength[static_cast<std::size_t>(length)]) {
                         const LetterString& word = *candidate;
                         bool fits = true;
                         for (int k = 0; k < length && fits; ++k) {
                             const Square square = squareAt(direction, line, start + k);
                             const Tile tile = board.at(square.row, square.column);
-                            fits = tile == kEmpty || letterOf(tile) == word[static_cast<std::size_t>(k)];
+                            fits = tile == kEmpty ||
+                                   letterOf(tile) == word[static_cast<std::size_t>(k)];
                         }
                         // Every cross word through a laid tile must be a word.
                         for (std::size_t i = 0; i < open.size() && fits; ++i) {
@@ -177,7 +179,8 @@ std::vector<Move> referenceMoves(const Board& board, const Rack& rack,
                             }
                             for (int k = 0; k < length; ++k) {
                                 const Square square = squareAt(direction, line, start + k);
-                                move.word[static_cast<std::size_t>(k)] = after.at(square.row, square.column);
+                                move.word[static_cast<std::size_t>(k)] =
+                                    after.at(square.row, square.column);
                             }
                             // The score, word by word: a letter premium only under a
                             // laid tile, the word premiums of the laid squares multiplied.
@@ -186,7 +189,8 @@ std::vector<Move> referenceMoves(const Board& board, const Rack& rack,
                                 int multiplier = 1;
                                 for (const Square at : squares) {
                                     const Tile tile = after.at(at.row, at.column);
-                                    const int value = isBlank(tile) ? 0 : values.letter(letterOf(tile));
+                                    const int value =
+                                        isBlank(tile) ? 0 : values.letter(letterOf(tile));
                                     if (board.at(at.row, at.column) == kEmpty) {
                                         sum += value * premiumAt(at.row, at.column).letter;
                                         multiplier *= premiumAt(at.row, at.column).word;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The stamp's hash must never change: a graph file written by one version
+// The stamp's hash must never change: a lexicon file written by one version
 // of the program is checked by every later one.
 
 #include "board/content_hash.h"
@@ -23,6 +23,22 @@ TEST(ContentHash, ValuesArePinned) {
     // clang-format on
     for (const auto& [bytes, value] : pinned)
         EXPECT_EQ(contentHash(bytes), value) << bytes.size() << " bytes";
+}
+
+TEST(ContentHash, PiecesHashLikeTheWhole) {
+    std::string bytes;
+    for (int i = 0; i < 300; ++i)
+        bytes += static_cast<char>(i * 13 + 5);
+    // Every way to cut the bytes in two and three (at the stripe edges too).
+    for (std::size_t first = 0; first <= bytes.size(); first += 7) {
+        for (std::size_t second = first; second <= bytes.size(); second += 31) {
+            ContentHasher hasher(9);
+            hasher.add(std::string_view(bytes).substr(0, first));
+            hasher.add(std::string_view(bytes).substr(first, second - first));
+            hasher.add(std::string_view(bytes).substr(second));
+            ASSERT_EQ(hasher.finish(), contentHash(bytes, 9)) << first << " " << second;
+        }
+    }
 }
 
 TEST(ContentHash, EveryByteAndTheSeedCount) {

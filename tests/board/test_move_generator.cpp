@@ -8,6 +8,7 @@
 #include "board/playable_words.h"
 #include "board/position_text.h"
 #include "board/premium_layout.h"
+#include "board/scoring.h"
 #include "board_test_support.h"
 #include "reference_generator.h"
 
@@ -15,6 +16,7 @@
 #include <cctype>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -56,7 +58,11 @@ struct HandWorkedMove {
 // Each score worked out by hand from the premium layout and the values
 // E N S I R T U A D 1, H G L O 2, M B W Z 3, Ü 6 (see each row's sum).
 const std::vector<HandWorkedMove>& handWorkedMoves() {
-    const auto hausSee = rowsWith({{8, "....HAUS......."}, {9, ".......E......."}, {10, ".......E......."}});
+    const auto hausSee =
+        rowsWith({{8, "....HAUS......."}, {9, ".......E......."}, {10, ".......E......."}});
+    const auto hausTuer =
+        rowsWith({{7, ".........T....."}, {8, "....HAUS.Ü....."}, {9, ".........R....."}});
+    // clang-format off
     static const std::vector<HandWorkedMove> moves = {
         // E8..H8, H8 the centre: (2+1+1+1) x 2.
         {"first move covers H8 and doubles", emptyRows(), "HAUS", "8E", "HAUS", 10, {}},
@@ -64,8 +70,8 @@ const std::vector<HandWorkedMove>& handWorkedMoves() {
         {"seven tiles earn 50", emptyRows(), "GARTENS", "8D", "GARTENS", 70, {}},
         // The blank on the centre scores 0 yet doubles: (2+1+1+0) x 2.
         {"blank on the centre doubles but scores 0", emptyRows(), "HAU?", "8E", "HAUs", 8, {}},
-        // Hook: E on I8 (plain) makes HAUSE 2+1+1+1+1; the centre's S is
-        // a board tile, its premium spent. One tile, listed across only.
+        // Hook: E on I8 (plain) makes HAUSE 2+1+1+1+1; the centre's S is a
+        // board tile, its premium spent. One tile, listed across only.
         {"hook onto a word", hausSee, "E", "8E", "HAUSE", 6, {}},
         // O on E9 under H: down HO 2+2 = 4; across it stands alone, so the
         // one-tile move is listed down.
@@ -76,25 +82,25 @@ const std::vector<HandWorkedMove>& handWorkedMoves() {
         // Parallel under HAUS: OHNE 2+2+1x2 (G9 2B)+1 = 7; HO 2+2 = 4,
         // AH 1+2 = 3, UN 1+1x2 = 3.
         {"parallel play scores every cross word", hausSee, "OHN", "9E", "OHNE", 17, {"HO", "AH", "UN"}},
-        // Through HAUS and the Ü of TÜR: 2+1+1+1+1+6+1, the centre's
-        // double already spent.
-        {"play through several board tiles",
-         rowsWith({{7, ".........T....."}, {8, "....HAUS.Ü....."}, {9, ".........R....."}}),
-         "TR", "8E", "HAUSTÜR", 13, {}},
+        // Through HAUS and the Ü of TÜR: 2+1+1+1+1+6+1, the centre's double
+        // already spent.
+        {"play through several board tiles", hausTuer, "TR", "8E", "HAUSTÜR", 13, {}},
         // E5 and K5 are both 2W: (2+1+1+1+1+1+1) x 4; six tiles, no bonus.
-        {"two double-word squares make x4", rowsWith({{5, ".......T......."}}), "GARENS", "5E",
-         "GARTENS", 32, {}},
+        {"two double-word squares make x4", rowsWith({{5, ".......T......."}}), "GARENS", "5E", "GARTENS", 32, {}},
         // The same with a blank for G on E5: (0+6) x 4.
-        {"blank on a double-word square still doubles", rowsWith({{5, ".......T......."}}),
-         "?ARENS", "5E", "gARTENS", 24, {}},
+        {"blank on a double-word square still doubles", rowsWith({{5, ".......T......."}}), "?ARENS", "5E", "gARTENS", 24, {}},
         // W on E5 (2W): down WO (3+2) x 2 = 10; across WORT (3+2+1+1) x 2 = 14.
-        {"new tile's word premium doubles its cross word", rowsWith({{5, ".....ORT......."}}), "WO",
-         "E5", "WO", 24, {"WORT"}},
+        {"new tile's word premium doubles its cross word", rowsWith({{5, ".....ORT......."}}), "WO", "E5", "WO", 24, {"WORT"}},
         // A1 and H1 are 3W: 8 x 9 = 72, the S on D1 (2B) a board tile; +50.
-        {"two triple-word squares make x9, with the bonus", rowsWith({{1, "...S..........."}}),
-         "REIENDE", "1A", "REISENDE", 122, {}},
+        {"two triple-word squares make x9, with the bonus", rowsWith({{1, "...S..........."}}), "REIENDE", "1A", "REISENDE", 122, {}},
     };
+    // clang-format on
     return moves;
+}
+
+// Test names and failures show the row's name, not its bytes.
+void PrintTo(const HandWorkedMove& row, std::ostream* out) {
+    *out << row.name;
 }
 
 class HandWorked : public ::testing::TestWithParam<HandWorkedMove> {};
@@ -114,6 +120,10 @@ TEST_P(HandWorked, MoveIsFoundWithItsScoreAndTheTwinAgrees) {
     }
     ASSERT_EQ(matching.size(), 1u) << describe(moves);
     EXPECT_EQ(matching[0].score, expected.score);
+    // Scoring the laid tiles from scratch, as the window does, agrees.
+    EXPECT_EQ(
+        scorePlacement(board, laidTiles(matching[0]), matching[0].direction, germanValues()).total,
+        expected.score);
     EXPECT_EQ(crossWordTexts(board, matching[0]), expected.crossWords);
     // Its tiles come from the rack: the leave is the rack less the laid tiles.
     EXPECT_EQ(laidTilesText(matching[0]).size() + rackLeave(rack, matching[0]).size(),
@@ -132,11 +142,42 @@ INSTANTIATE_TEST_SUITE_P(Table, HandWorked, ::testing::ValuesIn(handWorkedMoves(
                              return name;
                          });
 
+TEST(MoveText, ShowsTheLaidTilesTheLeaveAndTheCrossWords) {
+    // OHNE under HAUS with a blank for N: laid O H n, left the rack's
+    // other tiles in rack order, blanks as "?".
+    const Lexicon lexicon = buildLexicon(lettersOf(kHandWords));
+    const Board board = boardOf(
+        rowsWith({{8, "....HAUS......."}, {9, ".......E......."}, {10, ".......E......."}}));
+    const Rack rack = rackOf("X?OHQ?");
+    const std::vector<Move> moves = allMoves(board, rack, lexicon, germanValues());
+    const auto found = std::find_if(moves.begin(), moves.end(), [](const Move& move) {
+        return moveCoordinate(move) == "9E" && moveWord(move) == "OHnE";
+    });
+    ASSERT_NE(found, moves.end()) << describe(moves);
+    EXPECT_EQ(laidTilesText(*found), "OHn");
+    EXPECT_EQ(rackLeave(rack, *found), "XQ?");
+    EXPECT_EQ(crossWordTexts(board, *found), (std::vector<std::string>{"HO", "AH", "Un"}));
+    const std::vector<LaidTile> laid = laidTiles(*found);
+    ASSERT_EQ(laid.size(), 3u);
+    EXPECT_EQ(laid[2], (LaidTile{8, 6, static_cast<Tile>(lettersOf("N")[0] | kBlankBit)}));
+    // Down moves name the column first; rows count from 1.
+    Move down;
+    down.row = 14;
+    down.column = 14;
+    down.direction = Direction::Down;
+    EXPECT_EQ(moveCoordinate(down), "O15");
+    down.direction = Direction::Across;
+    EXPECT_EQ(moveCoordinate(down), "15O");
+    EXPECT_EQ(lettersIn("enÄü?x1-ß"),
+              maskOf(5) | maskOf(14) | maskOf(27) | maskOf(29) | maskOf(24));
+}
+
 TEST(MoveGenerator, EmptyBoardListsOnlyAcrossMovesOverTheCentre) {
     const Lexicon lexicon = buildLexicon(lettersOf(kHandWords));
     const std::vector<Move> moves = allMoves(Board{}, rackOf("HAUS"), lexicon, germanValues());
     // HAUS at 8E 8F 8G 8H, AH at 8G 8H: never 8D, never down.
-    ASSERT_EQ(describe(moves), "8E HAUS 10\n8F HAUS 10\n8G HAUS 10\n8H HAUS 10\n8G AH 6\n8H AH 6\n");
+    ASSERT_EQ(describe(moves),
+              "8E HAUS 10\n8F HAUS 10\n8G HAUS 10\n8H HAUS 10\n8G AH 6\n8H AH 6\n");
     for (const Move& move : moves) {
         EXPECT_EQ(move.direction, Direction::Across);
         EXPECT_EQ(move.row, 7);
@@ -189,7 +230,9 @@ void compareOnRandomGames(unsigned seed, int positions) {
         const std::vector<Move> slow = testing::referenceMoves(board, rack, reference, values);
         ASSERT_EQ(fast, slow) << "position " << position << "\n"
                               << testing::boardText(board) << "rack " << rackText(rack)
-                              << "\nfast:\n" << describe(fast) << "slow:\n" << describe(slow);
+                              << "\nfast:\n"
+                              << describe(fast) << "slow:\n"
+                              << describe(slow);
 
         const std::size_t count = 1 + random() % 12;
         std::vector<Move> best = bestMoves(board, rack, lexicon, values, count);
@@ -242,7 +285,8 @@ TEST(MoveGenerator, BestMovesFindEveryWholeRackWord) {
             const std::vector<Move> slow = testing::referenceMoves(board, rack, reference, values);
             ASSERT_FALSE(slow.empty());
             ASSERT_EQ(bestMoves(board, rack, lexicon, values, 50),
-                      std::vector<Move>(slow.begin(), slow.begin() + std::min<std::size_t>(50, slow.size())))
+                      std::vector<Move>(slow.begin(),
+                                        slow.begin() + std::min<std::size_t>(50, slow.size())))
                 << rackText(rack);
             ++tried;
         }
@@ -273,16 +317,18 @@ TEST(SlowComparison, EqualsTheTwinOnTheShippedList) {
 
     std::mt19937 random(26);
     Board board;
-    const char* racks[] = {"EINRSTL", "QUARKEN", "ERNSTA?", "DEHNTUM", "AEILNOR",
-                           "SCHWÄRE", "ÖFEN?RT", "BLITZEN"};
+    const char* racks[] = {"EINRSTL", "QUARKEN", "ERNSTA?", "DEHNTUM",
+                           "AEILNOR", "SCHWÄRE", "ÖFEN?RT", "BLITZEN"};
     for (const char* text : racks) {
         const Rack rack = rackOf(text);
         const std::vector<Move> fast = allMoves(board, rack, lexicon, values);
         const std::vector<Move> slow = testing::referenceMoves(board, rack, reference, values);
         ASSERT_EQ(fast, slow) << testing::boardText(board) << "rack " << text << "\nfast:\n"
-                              << describe(fast) << "slow:\n" << describe(slow);
+                              << describe(fast) << "slow:\n"
+                              << describe(slow);
         const std::vector<Move> best = bestMoves(board, rack, lexicon, values, 20);
-        EXPECT_EQ(best, std::vector<Move>(fast.begin(), fast.begin() + std::min<std::size_t>(20, fast.size())));
+        EXPECT_EQ(best, std::vector<Move>(fast.begin(),
+                                          fast.begin() + std::min<std::size_t>(20, fast.size())));
         if (!fast.empty())
             applyMove(board, fast[random() % std::min<std::size_t>(fast.size(), 5)]);
     }

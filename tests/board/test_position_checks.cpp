@@ -2,8 +2,8 @@
 // Warnings for positions that read fine but are odd: words the list lacks,
 // tiles cut off from the centre, more tiles than the German set holds.
 
-#include "board/position_checks.h"
 #include "board/lexicon.h"
+#include "board/position_checks.h"
 #include "board/position_text.h"
 #include "board_test_support.h"
 
@@ -49,12 +49,12 @@ TEST(PositionChecks, CountsBoardAndRackAgainstTheSet) {
     const std::string e = "...............";
     // Two blanks on the board (s, q) and one on the rack; two Q on the rack.
     const std::vector<std::string> rows = {e, e, e, e, e, e, e, "....HAUs", ".......E", "......qE"};
-    const std::vector<std::string> expected = {
-        "not in the word list: qE at 10G", "more blanks than the set holds: 3 of 2",
-        "more tiles Q than the set holds: 2 of 1"};
+    const std::vector<std::string> expected = {"not in the word list: qE at 10G",
+                                               "more blanks than the set holds: 3 of 2",
+                                               "more tiles Q than the set holds: 2 of 1"};
     EXPECT_EQ(warningsFor(rows, "Q?Q"), expected);
-    const PositionWarnings warnings =
-        checkPosition(testing::boardOf(std::vector<std::string>(15, e)), testing::rackOf("EEEEEEE"), WordGraph{});
+    const PositionWarnings warnings = checkPosition(
+        testing::boardOf(std::vector<std::string>(15, e)), testing::rackOf("EEEEEEE"), WordGraph{});
     EXPECT_TRUE(warnings.empty());
 }
 

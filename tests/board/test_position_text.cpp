@@ -3,8 +3,8 @@
 // encodings and both line ends read, and every kind of bad input gets its
 // one-line message with the place.
 
-#include "board/position_text.h"
 #include "board/move_generator.h"
+#include "board/position_text.h"
 #include "board_test_support.h"
 
 #include <gtest/gtest.h>
@@ -34,7 +34,9 @@ std::vector<std::string> sampleRows() {
 
 Board sampleBoard() {
     Board board;
-    const auto letter = [](char c) { return letterFromWindows1252(static_cast<unsigned char>(c)); };
+    const auto letter = [](char c) {
+        return letterFromWindows1252(static_cast<unsigned char>(c));
+    };
     board.set(6, 7, 29);
     board.set(7, 4, letter('H'));
     board.set(7, 5, letter('A'));
@@ -52,11 +54,11 @@ TEST(BoardFile, ReadsBothEncodingsAndLineEnds) {
     for (const auto& [from, to] : {std::pair<std::string, std::string>{"Ü", "\xDC"}, {"ä", "\xE4"}})
         windows1252.replace(windows1252.find(from), from.size(), to);
     const std::string inputs[] = {
-        utf8,                                      // LF, final line end
-        utf8.substr(0, utf8.size() - 1),           // no final line end
-        lines(sampleRows(), "\r\n"),               // CR LF
-        "\xEF\xBB\xBF" + utf8,                     // byte-order mark
-        windows1252,                               // Windows-1252
+        utf8,                            // LF, final line end
+        utf8.substr(0, utf8.size() - 1), // no final line end
+        lines(sampleRows(), "\r\n"),     // CR LF
+        "\xEF\xBB\xBF" + utf8,           // byte-order mark
+        windows1252,                     // Windows-1252
         lines(sampleRows(), "\r\n").substr(0, utf8.size() + 15 - 2),
     };
     for (const std::string& input : inputs) {
@@ -84,7 +86,8 @@ TEST(BoardFile, BadInputGetsItsPlace) {
     tab[0] = "..\t............";
     std::vector<std::string> blank = sampleRows();
     blank[3] = "";
-    const std::string tile = " is not a tile (\".\" empty, a letter a tile, a lower-case letter a blank)";
+    const std::string tile =
+        " is not a tile (\".\" empty, a letter a tile, a lower-case letter a blank)";
     // clang-format off
     const std::pair<std::string, std::string> cases[] = {
         {"", "the board has 0 lines; it needs 15"},
@@ -123,7 +126,8 @@ TEST(Cgp, ReadsRowsRunsAndTheRackOfThePlayerToMove) {
 
 TEST(Cgp, BadInputGetsItsPlace) {
     const std::string empty14 = "15/15/15/15/15/15/15/15/15/15/15/15/15/15";
-    const std::string notTile = " is not a tile (a letter a tile, a lower-case letter a blank, a number empty squares)";
+    const std::string notTile =
+        " is not a tile (a letter a tile, a lower-case letter a blank, a number empty squares)";
     // clang-format off
     const std::pair<std::string, std::string> cases[] = {
         {"", "the position is empty"},
@@ -176,7 +180,8 @@ TEST(PositionText, RandomPositionsRoundTripThroughBothFormats) {
         const BoardRead file = readBoardFile(writeBoardFile(position.board));
         ASSERT_EQ(file.error, "");
         EXPECT_EQ(file.board, position.board);
-        const std::vector<Move> moves = allMoves(position.board, position.rack, lexicon, testing::germanValues());
+        const std::vector<Move> moves =
+            allMoves(position.board, position.rack, lexicon, testing::germanValues());
         if (moves.empty())
             position.board = Board{};
         else

@@ -65,7 +65,8 @@ TEST(WordGraph, HoldsExactlyTheWordsBothWays) {
         const WordGraph graph = buildWordGraph(words);
         EXPECT_EQ(validateWordGraph(graph.arcs()), "");
         EXPECT_EQ(graph.wordCount(), words.size());
-        EXPECT_EQ(accepted(graph, graph.dawgRoot()), std::set<LetterString>(words.begin(), words.end()));
+        EXPECT_EQ(accepted(graph, graph.dawgRoot()),
+                  std::set<LetterString>(words.begin(), words.end()));
         EXPECT_EQ(accepted(graph, graph.gaddagRoot()), gaddagStrings(words));
         // Words, their prefixes and extensions: contains() says which are words.
         const std::set<LetterString> wordSet(words.begin(), words.end());
@@ -79,9 +80,13 @@ TEST(WordGraph, HoldsExactlyTheWordsBothWays) {
 
 TEST(WordGraph, KeepsOnlyBoardWordsOnce) {
     // Duplicates once; one letter, sixteen letters, codes outside 1..29 left out.
-    const std::vector<LetterString> words = {lettersOf("AB"), lettersOf("AB"), lettersOf("A"),
-                                             lettersOf("ABCDEFGHIJKLMNOP"), LetterString{1, 30},
-                                             LetterString{1, 0}, lettersOf("ABCDEFGHIJKLMNO")};
+    const std::vector<LetterString> words = {lettersOf("AB"),
+                                             lettersOf("AB"),
+                                             lettersOf("A"),
+                                             lettersOf("ABCDEFGHIJKLMNOP"),
+                                             LetterString{1, 30},
+                                             LetterString{1, 0},
+                                             lettersOf("ABCDEFGHIJKLMNO")};
     const WordGraph graph = buildWordGraph(words);
     EXPECT_EQ(accepted(graph, graph.dawgRoot()),
               (std::set<LetterString>{lettersOf("AB"), lettersOf("ABCDEFGHIJKLMNO")}));
@@ -91,8 +96,8 @@ TEST(WordGraph, KeepsOnlyBoardWordsOnce) {
 
 TEST(PlayableWords, UpperCasesAndSkipsWhatNoBoardHolds) {
     const std::vector<std::u16string> entries = {
-        u"Aachener", u"äußern", u"Öl", u"übel", u"a", u"ab-c", u"Straße", u"Café",
-        u"Donaudampfschiff", u"Donaudampfschif", u"ZUG", u"x y", u""};
+        u"Aachener",         u"äußern",          u"Öl",  u"übel", u"a", u"ab-c", u"Straße", u"Café",
+        u"Donaudampfschiff", u"Donaudampfschif", u"ZUG", u"x y",  u""};
     std::vector<std::string> expected = {"AACHENER", "ÖL", "ÜBEL", "DONAUDAMPFSCHIF", "ZUG"};
     EXPECT_EQ(playableWords(entries), lettersOf(expected));
     // The same entries read as the word list file holds them.
@@ -120,10 +125,9 @@ TEST(ValidateWordGraph, RefusesWhatCouldLeadOutside) {
 }
 
 TEST(AnagramIndex, GivesExactlyTheWordsOfALetterSet) {
-    const std::vector<LetterString> words = {lettersOf("GARTENS"), lettersOf("GRASTEN"),
-                                             lettersOf("ANREGST"), lettersOf("ANREGSTE"),
-                                             lettersOf("HAUS"), lettersOf("DONAUDAMPF"),
-                                             lettersOf("GARTENS")};
+    const std::vector<LetterString> words = {
+        lettersOf("GARTENS"), lettersOf("GRASTEN"),    lettersOf("ANREGST"), lettersOf("ANREGSTE"),
+        lettersOf("HAUS"),    lettersOf("DONAUDAMPF"), lettersOf("GARTENS")};
     const AnagramIndex index = buildAnagramIndex(words);
     EXPECT_EQ(AnagramIndex::validate(index.words(), index.slots()), "");
     const auto wordsOf = [&](std::string_view letters) {
@@ -137,7 +141,8 @@ TEST(AnagramIndex, GivesExactlyTheWordsOfALetterSet) {
         std::sort(found.begin(), found.end());
         return found;
     };
-    EXPECT_EQ(wordsOf("ENTSAGR"), lettersOf(std::vector<std::string>{"ANREGST", "GARTENS", "GRASTEN"}));
+    EXPECT_EQ(wordsOf("ENTSAGR"),
+              lettersOf(std::vector<std::string>{"ANREGST", "GARTENS", "GRASTEN"}));
     EXPECT_EQ(wordsOf("EENTSAGR"), lettersOf(std::vector<std::string>{"ANREGSTE"}));
     EXPECT_TRUE(wordsOf("HAUS").empty()); // shorter than seven: not indexed
     EXPECT_TRUE(wordsOf("ENTSAGX").empty());
@@ -168,6 +173,8 @@ TEST(CrossChecks, AgreeWithTryingEveryLetter) {
     const TileValues values = testing::germanValues();
     std::mt19937 random(4);
     Board board;
+    // Kept up to date by recomputing only the columns a move lays tiles in.
+    CrossChecks updated(board, graph, values);
     for (int turn = 0; turn < 40; ++turn) {
         const CrossChecks checks(board, graph, values);
         for (int row = 0; row < kBoardSize; ++row) {
@@ -191,18 +198,25 @@ TEST(CrossChecks, AgreeWithTryingEveryLetter) {
                 }
                 for (int r = top; r <= bottom; ++r)
                     score += r == row ? 0 : values.tile(board.at(r, column));
-                const CrossCheck& check = checks.at(row, column);
-                ASSERT_EQ(check.allowed, allowed) << "row " << row << " column " << column;
-                ASSERT_EQ(check.score, score);
-                ASSERT_EQ(check.boardTiles, bottom - top);
+                for (const CrossCheck* check :
+                     {&checks.at(row, column), &updated.at(row, column)}) {
+                    ASSERT_EQ(check->allowed, allowed) << "row " << row << " column " << column;
+                    ASSERT_EQ(check->score, score);
+                    ASSERT_EQ(check->boardTiles, bottom - top);
+                }
             }
         }
         const std::vector<Move> moves =
             allMoves(board, testing::randomRack(random, 1), Lexicon{graph, {}}, values);
-        if (moves.empty())
+        if (moves.empty()) {
             board = Board{};
-        else
-            applyMove(board, moves[random() % moves.size()]);
+            updated = CrossChecks(board, graph, values);
+            continue;
+        }
+        const Move& move = moves[random() % moves.size()];
+        applyMove(board, move);
+        for (const LaidTile& tile : laidTiles(move))
+            updated.recomputeColumn(board, tile.column, graph, values);
     }
 }
 
