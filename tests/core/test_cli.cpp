@@ -302,7 +302,9 @@ TEST_F(Cli, BoardFileStandardInputAndCgpGiveTheSameMoves) {
 
 TEST_F(Cli, BoardInputThatCannotBeReadIsAUsageError) {
     folder.write("data/short.txt", "...............\n...............\n");
-    folder.write("data/odd.txt", std::string(kBoardLines).replace(20, 1, "#"));
+    std::string odd = kBoardLines;
+    odd[20] = '#';
+    folder.write("data/odd.txt", odd);
     const std::tuple<std::vector<std::string>, std::string> cases[] = {
         {{"--board=short.txt", "--rack=AB"}, "short.txt: "},
         {{"--board=odd.txt", "--rack=AB"}, "odd.txt: "},
