@@ -59,7 +59,7 @@ BoardWindow::BoardWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
         say(stored.problem);
     lexiconStatus_->setText(QStringLiteral("Die Wortliste wird noch geladen …"));
     updateButtons();
-    resize(1040, 680);
+    resize(1120, 700);
 
     qApp->installEventFilter(this);
 }
@@ -118,7 +118,7 @@ void BoardWindow::buildControls() {
     moveView_->verticalHeader()->setDefaultSectionSize(moveView_->fontMetrics().height() + 6);
     moveView_->horizontalHeader()->setStretchLastSection(true);
     moveView_->horizontalHeader()->setHighlightSections(false);
-    const int widths[] = {46, 110, 54, 70, 64};
+    const int widths[] = {40, 104, 56, 84, 56};
     for (int column = 0; column < static_cast<int>(std::size(widths)); ++column)
         moveView_->setColumnWidth(column, widths[column]);
     moveView_->horizontalHeader()->setSortIndicator(MoveListModel::Punkte, Qt::DescendingOrder);
@@ -145,6 +145,7 @@ void BoardWindow::buildControls() {
     warnings_->setPalette(red);
     warnings_->hide();
     lexiconStatus_ = line("lexiconStatus");
+    lexiconStatus_->setWordWrap(true);
     progress_ = new QProgressBar;
     progress_->setObjectName(QStringLiteral("progress"));
     progress_->setRange(0, 0); // the build says nothing of its progress: a busy bar
@@ -183,8 +184,8 @@ void BoardWindow::layOut() {
     side->addLayout(lexiconRow);
 
     auto* top = new QHBoxLayout;
-    top->addWidget(board_, 3);
-    top->addLayout(side, 2);
+    top->addWidget(board_, 4);
+    top->addLayout(side, 3);
 
     auto* whole = new QVBoxLayout(this);
     whole->addLayout(top, 1);
