@@ -61,7 +61,9 @@ struct ShippedWords {
     b::TileValues values;
 
     ShippedWords() {
-        std::filesystem::copy_file(kRunFolder / "DB1.txt", folder / "DB1.txt");
+        // The letter values too, for a main window started in this folder.
+        for (const char* file : {"DB1.txt", "Bewertung1.txt", "Bewertung2.txt"})
+            std::filesystem::copy_file(kRunFolder / file, folder / file);
         std::string error;
         if (!b::writeLexiconFileFor(folder / "DB1.txt", folder / "DB1.lex", error))
             qFatal("cannot write the word graph: %s", error.c_str());
@@ -851,6 +853,55 @@ private Q_SLOTS:
         view.setFocus();
         QTest::keyClick(&view, Qt::Key_F1);
         QVERIFY(form.aboutBox() != nullptr && form.aboutBox()->isVisible());
+    }
+
+    // The keys of the README's walk-through, each sent where the focus is: from
+    // the main window to a laid best move without the mouse.
+    void keyboardOnlyWalkThrough() {
+        DataFolder data;
+        CurrentFolder current(shipped().folder.path());
+        Form1 form(kRunFolder);
+        form.setExitHandler([] {});
+        form.Form_Load();
+        form.findChild<QTimer*>("Timer2")->stop();
+        form.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        const auto press = [](const QString& keys) {
+            for (const QString& key : keys.split(' ')) {
+                QWidget* focused = QApplication::focusWidget();
+                QVERIFY(focused != nullptr);
+                const QMap<QString, Qt::Key> named = {
+                    {"F2", Qt::Key_F2},   {"Left", Qt::Key_Left},   {"Right", Qt::Key_Right},
+                    {"Up", Qt::Key_Up},   {"Down", Qt::Key_Down},   {"Space", Qt::Key_Space},
+                    {"Tab", Qt::Key_Tab}, {"Enter", Qt::Key_Return}};
+                if (named.contains(key))
+                    QTest::sendKeyEvent(QTest::Click, focused, named[key],
+                                        key == "Space" ? QString(" ") : QString(), {});
+                else
+                    QTest::sendKeyEvent(QTest::Click, focused, Qt::Key_unknown, key, {});
+            }
+        };
+        form.findChild<QWidget*>("txtBuchstaben")->setFocus();
+        press("F2");
+        BoardWindow* window = form.boardWindow();
+        QVERIFY(window != nullptr);
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        press("h a u s Left Left Left Left Space Down u n d Space Up Right a c h Left Space Down o "
+              "f Up Space Right e e Tab e r n s t ? a");
+        QCOMPARE(tilesOf(window->position().board),
+                 QString("H8:H I8:A J8:U K8:S H9:U H10:N H11:D I11:A J11:C K11:H K12:O K13:F "
+                         "L13:E M13:E"));
+        QCOMPARE(QString::fromStdString(b::rackText(window->position().rack)), QString("ERNST?A"));
+        QTRY_VERIFY(window->lexiconReady());
+        press("Enter");
+        const b::Position before = window->position();
+        const std::vector<b::Move> best =
+            b::bestMoves(before.board, before.rack, shipped().lexicon, shipped().values, 1);
+        QCOMPARE(describe(*window->boardView().preview()), describe(best[0]));
+        press("Enter");
+        b::Board laid = before.board;
+        b::applyMove(laid, best[0]);
+        QCOMPARE(tilesOf(window->position().board), tilesOf(laid));
     }
 
     // The button sits on the banner left of "?", as high, and comes after it
