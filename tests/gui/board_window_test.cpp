@@ -578,17 +578,17 @@ private Q_SLOTS:
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("status");
         QTest::newRow("current file") << "current"
-                                      << "Wortgraph aus DB1.lex geladen: 6 Wörter.";
+                                      << "Wortgraph aus DB1.lex geladen: 7 Wörter.";
         QTest::newRow("no file") << "missing"
-                                 << "DB1.lex fehlt: der Wortgraph wurde im Speicher aufgebaut, 6 "
+                                 << "DB1.lex fehlt: der Wortgraph wurde im Speicher aufgebaut, 7 "
                                     "Wörter.";
         QTest::newRow("damaged file") << "damaged"
                                       << "DB1.lex ist beschädigt: der Wortgraph wurde im Speicher "
-                                         "aufgebaut, 6 Wörter.";
+                                         "aufgebaut, 7 Wörter.";
         QTest::newRow("file of another list")
             << "stale"
             << "DB1.lex gehört zu einer anderen Wortliste: der Wortgraph wurde im Speicher "
-               "aufgebaut, 6 Wörter.";
+               "aufgebaut, 7 Wörter.";
         QTest::newRow("no word list") << "no list"
                                       << "Die Wortliste fehlt oder ist leer: es gibt keine Züge "
                                          "zu finden.";
@@ -598,13 +598,14 @@ private Q_SLOTS:
         QFETCH(QString, status);
         TempFolder list;
         if (file != "no list")
-            list.write("DB1.txt", "haus\r\nmaus\r\nlaus\r\nhase\r\nmast\r\nlast\r\n");
+            // A seven-letter word, so that the graph's file holds an anagram index too.
+            list.write("DB1.txt", "haus\r\nmaus\r\nlaus\r\nhase\r\nmast\r\nlast\r\nsalmhut\r\n");
         if (file == "current" || file == "stale") {
             std::string error;
             QVERIFY(b::writeLexiconFileFor(list / "DB1.txt", list / "DB1.lex", error));
         }
         if (file == "stale")
-            list.write("DB1.txt", "haus\r\nmaus\r\nlaus\r\nhase\r\nmast\r\nlaster\r\n");
+            list.write("DB1.txt", "haus\r\nmaus\r\nlaus\r\nhase\r\nmast\r\nlaster\r\nsalmhut\r\n");
         if (file == "damaged")
             list.write("DB1.lex", "LTRLEXIC and then nothing of use");
         const PreparedWords words(DatenbankEinlesen(list / "DB1.txt"), shipped().words.values());

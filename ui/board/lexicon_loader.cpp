@@ -5,6 +5,7 @@
 #include "ui/board/board_texts.h"
 
 #include <QtConcurrent/QtConcurrentRun>
+#include <exception>
 #include <new>
 
 namespace lettriner::ui {
@@ -48,6 +49,12 @@ void LexiconLoader::start(const WordDatabase& database, std::filesystem::path wo
             result.lexicon = {};
             result.failure = QStringLiteral("Für den Wortgraphen reicht der Speicher nicht: "
                                             "ohne ihn findet das Brett keine Züge.");
+        } catch (const std::exception& error) {
+            // Nothing thrown may reach the UI thread, where result() would rethrow it.
+            result.lexicon = {};
+            result.failure = QStringLiteral("Der Wortgraph ließ sich nicht aufbauen (%1): ohne "
+                                            "ihn findet das Brett keine Züge.")
+                                 .arg(QString::fromLocal8Bit(error.what()));
         }
         return result;
     }));
