@@ -29,10 +29,12 @@
 #include <QAccessible>
 #include <QClipboard>
 #include <QCollator>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
@@ -279,6 +281,9 @@ private Q_SLOTS:
         QTest::newRow("typing on a tile replaces it") << "h a Left Left e"       << "H8:E I8:A"           << "I8";
         QTest::newRow("the edge keeps the cursor")    << "Click:N8 a b c"        << "N8:A O8:C"           << "O8";
         QTest::newRow("Backspace at the edge")        << "Click:N8 a b Backspace" << "N8:A"               << "O8";
+        QTest::newRow("menu Blanko on a tile")         << "e Left Menu:Blanko"    << "H8:e"                << "H8";
+        QTest::newRow("menu Blanko, then a letter")    << "Menu:Blanko e n"       << "H8:e I8:N"           << "J8";
+        QTest::newRow("menu Stein entfernen")          << "e Left Menu:Stein"     << ""                    << "H8";
         QTest::newRow("Backspace at A1 does nothing") << "Click:A1 Backspace"    << ""                    << "A1";
         QTest::newRow("digits, signs, Ctrl+letter")   << "1 - Ctrl+X"            << ""                    << "H8";
         // clang-format on
@@ -305,6 +310,20 @@ private Q_SLOTS:
                                                       {"Up", Qt::Key_Up},
                                                       {"Down", Qt::Key_Down}};
                 w.key(&w.view(), named[key]);
+            } else if (key.startsWith("Menu:")) {
+                // The context menu key, then the entry starting with the given word.
+                const QString entry = key.mid(5);
+                QTimer::singleShot(0, this, [entry] {
+                    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                    QVERIFY(menu != nullptr);
+                    for (QAction* action : menu->actions())
+                        if (action->text().startsWith(entry))
+                            action->trigger();
+                    menu->close();
+                });
+                w.view().setFocus();
+                QContextMenuEvent menu(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+                QApplication::sendEvent(&w.view(), &menu);
             } else if (key.startsWith("Shift+")) {
                 w.key(&w.view(), Qt::Key_unknown, Qt::ShiftModifier, key.mid(6));
             } else if (key.startsWith("Ctrl+")) {
