@@ -80,6 +80,7 @@ public:
     // The upper-cased word, decoded.
     [[nodiscard]] std::u16string upper(std::size_t i) const;
     [[nodiscard]] const LetterValueTable& values() const { return letterValues_; }
+    [[nodiscard]] const WordDatabase& database() const { return database_; }
 
 private:
     WordDatabase database_;

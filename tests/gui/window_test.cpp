@@ -512,8 +512,9 @@ private slots:
             QVERIFY2(ownLook(stop) != focused, qPrintable(stop->objectName()));
             stop = w.form.focusWidget();
         } while (stop != w.field("txtBuchstaben") && visited.size() < 20);
-        QCOMPARE(visited.join(' '), "txtBuchstaben txtConst txtPflichtbuchstaben txtMindestWert "
-                                    "txtVerboteneBuchstaben cmdSuchen ListView1 Picture1 cmdInfo");
+        QCOMPARE(visited.join(' '),
+                 "txtBuchstaben txtConst txtPflichtbuchstaben txtMindestWert "
+                 "txtVerboteneBuchstaben cmdSuchen ListView1 Picture1 cmdInfo cmdBrett");
     }
 
     void qtTextsInGerman_data() {

@@ -24,6 +24,8 @@ inline constexpr int kBelowFrame1 = 600;
 
 // Inside the banner.
 inline constexpr TwipsRect cmdInfo{10320, 120, 255, 255};
+// The board window's button, left of "?" and as high.
+inline constexpr TwipsRect cmdBrett{9780, 120, 480, 255};
 
 // Inside Frame1.
 inline constexpr TwipsRect Label1{240, 240, 2055, 615};

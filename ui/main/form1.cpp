@@ -5,6 +5,7 @@
 #include "ui/main/form1.h"
 
 #include "ui/about/about_box.h"
+#include "ui/board/board_window.h"
 #include "ui/main/banner.h"
 #include "ui/main/design_layout.h"
 #include "ui/main/loading_cover.h"
@@ -135,6 +136,8 @@ Form1::Form1(std::filesystem::path programFolder, QWidget* parent)
 
 Form1::~Form1() {
     qApp->removeEventFilter(this);
+    // Waits for a word graph still loading from words_.
+    delete boardWindow_;
 }
 
 int Form1::outerHeightTwips() {
@@ -156,6 +159,7 @@ void Form1::nameForScreenReaders() {
     cmdSuchen_->setAccessibleName(QStringLiteral("Suche starten"));
     cmdStop_->setAccessibleName(QStringLiteral("Suche anhalten"));
     cmdInfo_->setAccessibleName(QStringLiteral("Information"));
+    cmdBrett_->setAccessibleName(QStringLiteral("Spielbrett"));
     Picture1_->setAccessibleName(QStringLiteral("Lettriner, Information"));
     ListView1_->setAccessibleName(QStringLiteral("Ergebnisliste"));
     ListView2_->setAccessibleName(QStringLiteral("Bonuswörter"));
@@ -267,6 +271,12 @@ void Form1::buildBanner() {
     cmdInfo_ = place(new QPushButton(QStringLiteral("?"), Picture1_), "cmdInfo", design::cmdInfo);
     cmdInfo_->setAutoDefault(false);
     connect(cmdInfo_, &QPushButton::clicked, this, &Form1::openAboutBox);
+    // A button of its own on the banner: its clicks never reach the banner.
+    cmdBrett_ =
+        place(new QPushButton(QStringLiteral("Brett"), Picture1_), "cmdBrett", design::cmdBrett);
+    cmdBrett_->setToolTip(QStringLiteral("Spielbrett: die besten Züge auf dem Brett (F2)"));
+    cmdBrett_->setAutoDefault(false);
+    connect(cmdBrett_, &QPushButton::clicked, this, &Form1::openBoardWindow);
 }
 
 void Form1::setTabOrder() {
@@ -281,7 +291,8 @@ void Form1::setTabOrder() {
                               ListView1_,
                               ListView2_,
                               Picture1_,
-                              cmdInfo_};
+                              cmdInfo_,
+                              cmdBrett_};
     for (std::size_t i = 1; i < std::size(chain); ++i)
         QWidget::setTabOrder(chain[i - 1], chain[i]);
 }

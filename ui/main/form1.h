@@ -9,10 +9,11 @@
 // Its code, a file per job:
 //   form1.cpp          the controls as designed: places, texts, tab order, names
 //   form1_startup.cpp  start-up under the loading cover, the cover, shutdown
-//   form1_keys.cpp     the keys: Enter, Esc and F1, each its own handler
+//   form1_keys.cpp     the keys: Enter, Esc, F1 and F2, each its own handler
 //   form1_pointer.cpp  the banner's border following the pointer
 //   form1_lists.cpp    the result lists, the bonus list's place, header sorts
 //   form1_search.cpp   the search and stop buttons and the run's hooks
+//   form1_board.cpp    the board window: opened by F2 and "Brett", given the words
 
 #include "engine/prepared_words.h"
 #include "engine/search_run.h"
@@ -40,6 +41,7 @@ class frmAbout;
 namespace lettriner::ui {
 
 class Banner;
+class BoardWindow;
 class LoadingCover;
 class ProgressBox;
 class ResultTableModel;
@@ -67,6 +69,7 @@ public:
     [[nodiscard]] ResultTableModel& bonusList() const { return *model2_; }
     // Null until first opened.
     [[nodiscard]] lettriner::frmAbout* aboutBox() const { return frmAbout_; }
+    [[nodiscard]] BoardWindow* boardWindow() const { return boardWindow_; }
 
     // False: a full pass over the event loop after every word, the slow way a
     // benchmark compares against. True (the default): paced passes.
@@ -87,6 +90,9 @@ public slots:
     void CheckerAnschalten();
     // F1, "?" and the banner: the about box, created on first use, then shown again.
     void openAboutBox();
+    // F2 and "Brett": the board window, created on first use, then shown
+    // again; opened under the loading cover, it gets the words once loaded.
+    void openBoardWindow();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -120,6 +126,9 @@ private:
     bool onEnterKey();
     bool onEscapeKey();
     bool onF1Key();
+    bool onF2Key();
+    // Start-up's end: the board window, if already open, gets the words.
+    void handWordsToBoardWindow();
     void pointerMovedOverFrame(const QWidget& frame, const QMouseEvent& move);
     void yieldToEvents();
 
@@ -127,6 +136,7 @@ private:
 
     Banner* Picture1_ = nullptr;
     QPushButton* cmdInfo_ = nullptr;
+    QPushButton* cmdBrett_ = nullptr;
     LoadingCover* Frame3_ = nullptr;
     QFrame* Frame1_ = nullptr;
     QFrame* Frame2_ = nullptr;
@@ -149,6 +159,9 @@ private:
     QTimer* Timer1_ = nullptr;
     QTimer* Timer2_ = nullptr;
     lettriner::frmAbout* frmAbout_ = nullptr;
+    // A window of its own, not a child: deleted by the destructor, before the
+    // words its word graph is loaded from.
+    BoardWindow* boardWindow_ = nullptr;
 
     LineEditNumberField minimumValue_;
     LineEditNumberField fieldSize_;

@@ -5,6 +5,7 @@
 //   Enter   onEnterKey   presses the focused button, else starts a search
 //   Esc     onEscapeKey  stops a running search
 //   F1      onF1Key      opens the about box, and the key goes on
+//   F2      onF2Key      opens the board window, also under the loading cover
 // Ctrl+A belongs to the letter fields (LetterField, input_fields.cpp). Mouse
 // moves over the frames go on to the pointer effects (form1_pointer.cpp).
 
@@ -33,6 +34,8 @@ bool Form1::previewKey(const QKeyEvent& key) {
     switch (key.key()) {
     case Qt::Key_F1:
         return onF1Key();
+    case Qt::Key_F2:
+        return onF2Key();
     case Qt::Key_Return:
     case Qt::Key_Enter:
         return onEnterKey();
@@ -64,6 +67,11 @@ bool Form1::onEscapeKey() {
 bool Form1::onF1Key() {
     openAboutBox();
     return false; // seen, not consumed
+}
+
+bool Form1::onF2Key() {
+    openBoardWindow();
+    return true;
 }
 
 } // namespace lettriner::ui

@@ -92,6 +92,7 @@ void Form1::Form_Load() {
             .replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
 
     ladenFertig_ = true;
+    handWordsToBoardWindow();
 }
 
 QSize Form1::nonClientSize() const {
