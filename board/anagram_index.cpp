@@ -46,12 +46,12 @@ AnagramIndex::AnagramIndex(std::vector<PackedLetters> words, std::vector<std::ui
 
 std::span<const PackedLetters> AnagramIndex::wordsOf(PackedLetters key) const {
     const std::span<const PackedLetters> all = words();
-    const std::span<const std::uint32_t> table = slots();
-    if (table.empty())
+    const std::span<const std::uint32_t> slots = table();
+    if (slots.empty())
         return {};
-    std::size_t slot = slotOf(key, table.size());
-    for (std::size_t probe = 0; probe < table.size(); ++probe) {
-        const std::uint32_t entry = table[slot];
+    std::size_t slot = slotOf(key, slots.size());
+    for (std::size_t probe = 0; probe < slots.size(); ++probe) {
+        const std::uint32_t entry = slots[slot];
         if (entry == 0)
             return {};
         const std::size_t first = entry - 1;
@@ -61,7 +61,7 @@ std::span<const PackedLetters> AnagramIndex::wordsOf(PackedLetters key) const {
                 ++last;
             return all.subspan(first, last - first);
         }
-        slot = (slot + 1) & (table.size() - 1);
+        slot = (slot + 1) & (slots.size() - 1);
     }
     return {};
 }

@@ -36,7 +36,7 @@ public:
     AnagramIndex() = default;
     // Takes arrays already checked by validate() (or built by
     // buildAnagramIndex). Copies of an index share its arrays.
-    AnagramIndex(std::vector<PackedLetters> words, std::vector<std::uint32_t> slots);
+    AnagramIndex(std::vector<PackedLetters> words, std::vector<std::uint32_t> table);
 
     [[nodiscard]] bool empty() const { return words().empty(); }
     // The words whose letters are the key's (sortedKey of any of them).
@@ -46,8 +46,10 @@ public:
         return arrays_ ? std::span<const PackedLetters>(arrays_->words)
                        : std::span<const PackedLetters>();
     }
-    [[nodiscard]] std::span<const std::uint32_t> slots() const {
-        return arrays_ ? std::span<const std::uint32_t>(arrays_->slots)
+    // The hash table of the groups (named so as not to clash with Qt's
+    // "slots" keyword in the window that includes this).
+    [[nodiscard]] std::span<const std::uint32_t> table() const {
+        return arrays_ ? std::span<const std::uint32_t>(arrays_->table)
                        : std::span<const std::uint32_t>();
     }
 
@@ -55,12 +57,12 @@ public:
     // a letter outside the alphabet, a slot pointing past the words, a table
     // whose size is not a power of two or that has no empty slot.
     [[nodiscard]] static std::string validate(std::span<const PackedLetters> words,
-                                              std::span<const std::uint32_t> slots);
+                                              std::span<const std::uint32_t> table);
 
 private:
     struct Arrays {
         std::vector<PackedLetters> words;
-        std::vector<std::uint32_t> slots; // index + 1 of a group's first word; 0 empty
+        std::vector<std::uint32_t> table; // per slot: index + 1 of a group's first word; 0 empty
     };
     std::shared_ptr<const Arrays> arrays_;
 };

@@ -384,7 +384,7 @@ std::string encodeLexiconFile(const Lexicon& lexicon, const SourceStamp& stamp) 
     for (std::size_t i = 2; i < arcs.size(); ++i)
         encodeArc(parts, arcs[i], static_cast<std::uint32_t>(i));
     const std::span<const PackedLetters> words = lexicon.anagrams.words();
-    const std::span<const std::uint32_t> slots = lexicon.anagrams.slots();
+    const std::span<const std::uint32_t> slots = lexicon.anagrams.table();
     std::string out;
     out.reserve(kHeaderSize + parts.firstBytes.size() + parts.indexWords.size() +
                 parts.farBytes.size() + 8 * words.size() + 4 * slots.size());

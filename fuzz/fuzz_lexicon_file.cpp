@@ -88,7 +88,7 @@ void check(std::string_view bytes) {
     const Lexicon& lexicon = decoded.lexicon;
     if (!validateWordGraph(lexicon.graph.arcs()).empty())
         fuzz::fail("a loaded graph fails its validation");
-    if (!AnagramIndex::validate(lexicon.anagrams.words(), lexicon.anagrams.slots()).empty())
+    if (!AnagramIndex::validate(lexicon.anagrams.words(), lexicon.anagrams.table()).empty())
         fuzz::fail("a loaded anagram index fails its validation");
     const DecodedLexicon again = decodeLexiconFile(encodeLexiconFile(lexicon, decoded.stamp));
     if (!again.error.empty() ||

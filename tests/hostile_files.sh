@@ -34,7 +34,9 @@ echo "ok: no library from the data folder, nothing written through the link"
 
 # A full disk under the program folder: the settings rewrite must fail cleanly.
 mkdir "$work/full"
-if ! mount -t tmpfs -o size=16m tmpfs "$work/full" 2>/dev/null; then
+# Room for the program (a debug or sanitizer build is large) and a little more.
+room_kb=$(($(stat -c %s "$run/lettriner") / 1024 + 4096))
+if ! mount -t tmpfs -o "size=${room_kb}k" tmpfs "$work/full" 2>/dev/null; then
     echo "skipped: cannot mount a tmpfs here (needs root); full-disk settings write not checked"
     exit 0
 fi

@@ -129,7 +129,7 @@ TEST(AnagramIndex, GivesExactlyTheWordsOfALetterSet) {
         lettersOf("GARTENS"), lettersOf("GRASTEN"),    lettersOf("ANREGST"), lettersOf("ANREGSTE"),
         lettersOf("HAUS"),    lettersOf("DONAUDAMPF"), lettersOf("GARTENS")};
     const AnagramIndex index = buildAnagramIndex(words);
-    EXPECT_EQ(AnagramIndex::validate(index.words(), index.slots()), "");
+    EXPECT_EQ(AnagramIndex::validate(index.words(), index.table()), "");
     const auto wordsOf = [&](std::string_view letters) {
         std::vector<LetterString> found;
         for (const PackedLetters word : index.wordsOf(sortedKey(packLetters(lettersOf(letters))))) {

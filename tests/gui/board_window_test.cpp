@@ -4,13 +4,6 @@
 // word list, previews, laying, undo, the saved position, pasted text, the
 // word graph's loading, and the main window's ways to open it.
 
-// The windows' headers first, with Qt's keywords; then the board library's,
-// one of which has a member named "slots", so the keyword goes before them.
-#include "support/temp_folder.h"
-#include "ui/about/about_box.h"
-#include "ui/main/form1.h"
-#undef slots
-
 #include "board/lexicon_loading.h"
 #include "board/move_generator.h"
 #include "board/move_text.h"
@@ -18,12 +11,15 @@
 #include "data/word_database.h"
 #include "engine/letter_values.h"
 #include "engine/prepared_words.h"
+#include "support/temp_folder.h"
+#include "ui/about/about_box.h"
 #include "ui/board/board_geometry.h"
 #include "ui/board/board_view.h"
 #include "ui/board/board_window.h"
 #include "ui/board/move_list_model.h"
 #include "ui/board/position_store.h"
 #include "ui/board/rack_field.h"
+#include "ui/main/form1.h"
 
 #include <QAbstractItemModelTester>
 #include <QAccessible>
