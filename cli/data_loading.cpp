@@ -63,22 +63,19 @@ void warnAboutLetterFiles(std::vector<std::string>& messages) {
     }
 }
 
-// Changes to the folder whose DB1.txt is read; its state, or a failure.
-struct DataFolder {
-    FileState listState = FileState::Absent;
-    LoadFailure failure = LoadFailure::None;
-};
-
-DataFolder enterDataFolder(const std::optional<std::string>& directory,
-                           const std::optional<fs::path>& installed,
-                           std::vector<std::string>& messages) {
+// Changes to the folder whose DB1.txt is read and gives its state; a failure
+// goes into the report.
+FileState enterDataFolder(const std::optional<std::string>& directory,
+                          const std::optional<fs::path>& installed, LoadReport& report) {
+    std::vector<std::string>& messages = report.messages;
     std::error_code error;
     if (directory) {
         fs::current_path(*directory, error);
         if (error) {
             messages.push_back("cannot change to " + messageText(*directory) + ": " +
                                error.message());
-            return {FileState::Absent, LoadFailure::CannotEnter};
+            report.failure = LoadFailure::CannotEnter;
+            return FileState::Absent;
         }
     }
     FileState state = fileState("DB1.txt");
@@ -93,23 +90,24 @@ DataFolder enterDataFolder(const std::optional<std::string>& directory,
     }
     if (state == FileState::Absent) {
         messages.push_back(*uselessList(state, ".") + (directory ? "" : "; use -C DIR"));
-        return {state, LoadFailure::NoWordList};
+        report.failure = LoadFailure::NoWordList;
     }
-    return {state, LoadFailure::None};
+    return state;
 }
 
 // The list in the current folder, with a warning when it holds no words;
-// nullopt when it was read but memory is too short for it.
-std::optional<WordDatabase> readWordList(FileState state, std::vector<std::string>& messages) {
+// nullopt (and the failure reported) when memory is too short for it.
+std::optional<WordDatabase> readWordList(FileState state, LoadReport& report) {
     WordDatabase database = DatenbankEinlesen("DB1.txt", {}, WhenAbsent::LeaveAbsent);
     if (state == FileState::Readable && database.empty()) {
-        messages.push_back("out of memory: DB1.txt in " + folderName(".") + " does not fit");
+        report.failure = LoadFailure::OutOfMemory;
+        report.messages.push_back("out of memory: DB1.txt in " + folderName(".") + " does not fit");
         return std::nullopt;
     }
     if (state != FileState::Readable)
-        messages.push_back(*uselessList(state, "."));
+        report.messages.push_back(*uselessList(state, "."));
     else if (!holdsWords(database))
-        messages.push_back(*uselessList(FileState::Empty, "."));
+        report.messages.push_back(*uselessList(FileState::Empty, "."));
     return database;
 }
 
@@ -118,15 +116,11 @@ std::optional<WordDatabase> readWordList(FileState state, std::vector<std::strin
 LoadedData loadDataFiles(const std::optional<std::string>& directory,
                          const std::optional<fs::path>& installed) {
     LoadedData data;
-    const DataFolder folder = enterDataFolder(directory, installed, data.messages);
-    data.failure = folder.failure;
-    if (data.failure != LoadFailure::None)
+    const FileState state = enterDataFolder(directory, installed, data);
+    const std::optional<WordDatabase> database =
+        data.failure == LoadFailure::None ? readWordList(state, data) : std::nullopt;
+    if (!database)
         return data;
-    const std::optional<WordDatabase> database = readWordList(folder.listState, data.messages);
-    if (!database) {
-        data.failure = LoadFailure::OutOfMemory;
-        return data;
-    }
     warnAboutLetterFiles(data.messages);
     data.words = PreparedWords(*database, BewertungsFeldLaden({}, WhenAbsent::LeaveAbsent));
     if (!database->empty() && data.words.size() == 0) {
@@ -140,8 +134,7 @@ LoadedData loadDataFiles(const std::optional<std::string>& directory,
 LoadedBoardData loadBoardData(const std::optional<std::string>& directory,
                               const std::optional<fs::path>& installed) {
     LoadedBoardData data;
-    const DataFolder folder = enterDataFolder(directory, installed, data.messages);
-    data.failure = folder.failure;
+    const FileState state = enterDataFolder(directory, installed, data);
     if (data.failure != LoadFailure::None)
         return data;
     // A current lexicon file spares reading the list at all.
@@ -149,11 +142,9 @@ LoadedBoardData loadBoardData(const std::optional<std::string>& directory,
     if (check.state == board::LexiconFileState::Current) {
         data.lexicon = std::move(check.lexicon);
     } else {
-        const std::optional<WordDatabase> database = readWordList(folder.listState, data.messages);
-        if (!database) {
-            data.failure = LoadFailure::OutOfMemory;
+        const std::optional<WordDatabase> database = readWordList(state, data);
+        if (!database)
             return data;
-        }
         board::LoadedLexicon loaded =
             board::loadLexicon(board::kLexiconFileName, "DB1.txt", *database);
         if (!loaded.note.empty())

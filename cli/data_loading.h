@@ -24,12 +24,16 @@ enum class LoadFailure {
     OutOfMemory, // the list was read but memory is too short to search it
 };
 
-struct LoadedData {
-    PreparedWords words;
+// How reading went, for either search.
+struct LoadReport {
     LoadFailure failure = LoadFailure::None;
     // Lines for standard error, without the program's name: the failure's
     // message first when there is one, then every warning.
     std::vector<std::string> messages;
+};
+
+struct LoadedData : LoadReport {
+    PreparedWords words;
 };
 
 // Changes to the folder the data files are read from and reads them.
@@ -40,11 +44,9 @@ struct LoadedData {
 // What the board search reads: the lexicon (DB1.lex when it was built from
 // DB1.txt as it is, else built from DB1.txt in memory, which standard error
 // then says) and the letter values as whole points.
-struct LoadedBoardData {
+struct LoadedBoardData : LoadReport {
     board::Lexicon lexicon;
     board::TileValues values;
-    LoadFailure failure = LoadFailure::None;
-    std::vector<std::string> messages; // as in LoadedData
 };
 
 [[nodiscard]] LoadedBoardData loadBoardData(const std::optional<std::string>& directory,
