@@ -82,6 +82,8 @@ public:
 
 private:
     [[nodiscard]] bool fitsPattern(const PreparedWords& words, std::size_t index) const;
+    [[nodiscard]] TileVerdict checkWithoutBlanks(const PreparedWords& words, std::size_t index,
+                                                 std::int16_t minimum) const;
 
     const LetterValueTable& values_;
     std::u16string rack_;
