@@ -8,7 +8,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <functional>
 #include <new>
+#include <system_error>
+#include <thread>
 
 namespace lettriner {
 namespace {
@@ -77,6 +80,48 @@ TileCounts tileCounts(std::u16string_view upperRack) {
     return counts;
 }
 
+namespace {
+
+// Letters and value of the words [begin, end).
+void prepareRange(const WordDatabase& database, const ByteFacts& facts, bool whole,
+                  std::uint32_t* letterSets, std::int16_t* values, std::size_t begin,
+                  std::size_t end) {
+    for (std::size_t i = begin; i < end; ++i) {
+        const std::string_view word = database.bytes(i);
+        std::uint32_t letters = 0;
+        if (whole && word.size() < kLongestExactWord) {
+            std::int64_t wholeSum = 0;
+            for (const char byte : word) {
+                const auto b = static_cast<unsigned char>(byte);
+                letters |= facts.letterBit[b];
+                wholeSum += facts.wholeValue[b];
+            }
+            letterSets[i] = letters;
+            // A whole sum needs no rounding; outside 16 bits it cannot convert.
+            values[i] = wholeSum >= INT16_MIN && wholeSum <= INT16_MAX
+                            ? static_cast<std::int16_t>(wholeSum)
+                            : std::int16_t{0};
+            continue;
+        }
+        double sum = 0.0;
+        for (const char byte : word) {
+            const auto b = static_cast<unsigned char>(byte);
+            letters |= facts.letterBit[b];
+            sum += facts.value[b];
+        }
+        letterSets[i] = letters;
+        // Same sum in the same order as WortBewertung, so the same rounding.
+        values[i] = roundToInt16(sum).value_or(0);
+    }
+}
+
+// Preparing the shipped list takes about 7 ms, most of a fresh command
+// line's start-up: a second thread takes the upper half of a large list.
+// A small one is not worth starting a thread for.
+constexpr std::size_t kWordsWorthAThread = std::size_t{1} << 16;
+
+} // namespace
+
 PreparedWords::PreparedWords(WordDatabase database, const LetterValueTable& values)
     : database_(std::move(database)), letterValues_(values) {
     try {
@@ -94,33 +139,20 @@ PreparedWords::PreparedWords(WordDatabase database, const LetterValueTable& valu
     alphabetIndex_ = facts.alphabetIndex;
     const bool whole = wholeValues(values);
     const std::size_t count = database_.size();
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::string_view word = database_.bytes(i);
-        std::uint32_t letters = 0;
-        if (whole && word.size() < kLongestExactWord) {
-            std::int64_t wholeSum = 0;
-            for (const char byte : word) {
-                const auto b = static_cast<unsigned char>(byte);
-                letters |= facts.letterBit[b];
-                wholeSum += facts.wholeValue[b];
-            }
-            letters_[i] = letters;
-            // A whole sum needs no rounding; outside 16 bits it cannot convert.
-            wordValues_[i] = wholeSum >= INT16_MIN && wholeSum <= INT16_MAX
-                                 ? static_cast<std::int16_t>(wholeSum)
-                                 : std::int16_t{0};
-            continue;
+    const std::size_t half = count / 2;
+    std::thread helper;
+    if (count >= kWordsWorthAThread && std::thread::hardware_concurrency() > 1) {
+        try {
+            helper = std::thread(prepareRange, std::cref(database_), std::cref(facts), whole,
+                                 letters_.data(), wordValues_.data(), half, count);
+        } catch (const std::system_error&) {
+            // No thread to be had (a process or memory limit): all on this one.
         }
-        double sum = 0.0;
-        for (const char byte : word) {
-            const auto b = static_cast<unsigned char>(byte);
-            letters |= facts.letterBit[b];
-            sum += facts.value[b];
-        }
-        letters_[i] = letters;
-        // Same sum in the same order as WortBewertung, so the same rounding.
-        wordValues_[i] = roundToInt16(sum).value_or(0);
     }
+    prepareRange(database_, facts, whole, letters_.data(), wordValues_.data(), 0,
+                 helper.joinable() ? half : count);
+    if (helper.joinable())
+        helper.join();
 }
 
 std::u16string PreparedWords::upper(std::size_t i) const {

@@ -240,6 +240,26 @@ TEST(LetterTest, FastTestDecidesLikeTheLiteralOneOnRandomInput) {
     EXPECT_GT(tileOutcomes[2], 200);
 }
 
+// A list this long is prepared in two halves at once; every entry must come
+// out as the literal letter set and WortBewertung give it, with whole and
+// with fractional letter values.
+TEST(PreparedWords, LargeListEntriesAreTheLiteralLettersAndValue) {
+    RandomTexts random(20261124);
+    std::vector<std::u16string> list;
+    for (int n = 0; n < 70'000; ++n)
+        list.push_back(random.word(kRack));
+    LetterValueTable fractional = oneEach();
+    fractional.set(windows1252Code(u'T'), 1.5);
+    for (const LetterValueTable& values : {oneEach(), fractional}) {
+        const PreparedWords words(WordDatabase(joinedLines(list)), values);
+        ASSERT_EQ(words.size(), list.size());
+        for (std::size_t i = 0; i < list.size(); ++i) {
+            ASSERT_EQ(words.value(i), WortBewertung(values, list[i])) << i;
+            ASSERT_EQ(words.letters(i), letterSet(toUpper(list[i]))) << i;
+        }
+    }
+}
+
 TEST(LetterColumns, NeededLettersInWordOrderLeftOverInRackOrder) {
     // clang-format off
     const std::tuple<std::u16string, std::u16string, std::u16string, std::u16string> cases[] = {
