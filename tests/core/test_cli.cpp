@@ -86,6 +86,8 @@ TEST(ParseOptions, TileOptionsAreUpperCasedAndCheckTakesTheFollowingWords) {
                                                              "e"}));
     EXPECT_TRUE(o.json && o.usesTiles());
     EXPECT_FALSE(parseOptions({"--rack=x", "--tsv"}).options.usesTiles());
+    const ParseResult noBlanks = parseOptions({"--blanks", "0"});
+    EXPECT_EQ(std::tie(noBlanks.error, noBlanks.options.blanks), std::make_tuple("", 0));
 }
 
 TEST(MessageText, ShowsWhatCannotBePrintedByItsCode) {
@@ -96,6 +98,9 @@ TEST(MessageText, ShowsWhatCannotBePrintedByItsCode) {
     };
     for (const auto& [text, shown] : cases)
         EXPECT_EQ(messageText(text), shown);
+    // Well-formed UTF-8 of two, three and four bytes passes unchanged.
+    EXPECT_EQ(messageText(std::string_view("B\xC3\xA4r \xE2\x82\xAC \xF0\x9F\x98\x80")),
+              "B\xC3\xA4r \xE2\x82\xAC \xF0\x9F\x98\x80");
 }
 
 TEST(DataFolder, InstalledProgramsFindTheirWordList) {
@@ -298,6 +303,14 @@ TEST_F(Cli, BoardFileStandardInputAndCgpGiveTheSameMoves) {
     EXPECT_EQ(lines(best.out), 3) << best.out;
     const std::string firstMove = best.out.substr(best.out.find('\n') + 1);
     EXPECT_TRUE(firstMove.starts_with("J6\tFEE\t14\t")) << best.out;
+    // Forbidden letters: only moves that lay no E.
+    EXPECT_EQ(runCli({"--tsv", "--cgp", kBoardCgp, "--forbidden=e"}).out,
+              "moves\t2\nJ7\tFE\t5\tF\tEHR\t\n10H\tFe\t4\tF\tEHR\t\n");
+    // Twenty moves unless told otherwise (the blank makes forty).
+    const CliRun opening =
+        runCli({"--tsv", "--cgp", "15/15/15/15/15/15/15/15/15/15/15/15/15/15/15 AEFRST?/ 0/0 0"});
+    EXPECT_TRUE(opening.out.starts_with("moves\t20\n")) << opening.out;
+    EXPECT_EQ(lines(opening.out), 21) << opening.out;
 }
 
 TEST_F(Cli, BoardInputThatCannotBeReadIsAUsageError) {
@@ -305,10 +318,14 @@ TEST_F(Cli, BoardInputThatCannotBeReadIsAUsageError) {
     std::string odd = kBoardLines;
     odd[20] = '#';
     folder.write("data/odd.txt", odd);
+    folder.write("data/limit.txt", std::string(64 << 10, '.'));
+    folder.write("data/huge.txt", std::string((64 << 10) + 1, '.'));
     const std::tuple<std::vector<std::string>, std::string> cases[] = {
         {{"--board=short.txt", "--rack=AB"}, "short.txt: "},
         {{"--board=odd.txt", "--rack=AB"}, "odd.txt: "},
         {{"--board=absent.txt", "--rack=AB"}, "cannot read the board file absent.txt"},
+        {{"--board=limit.txt", "--rack=AB"}, "limit.txt: "},
+        {{"--board=huge.txt", "--rack=AB"}, "the board file huge.txt is far too large"},
         {{"--cgp", kBoardCgp, "--rack=ABCDEFGH"}, "--rack: "},
         {{"--cgp", kBoardCgp, "--rack=A1"}, "--rack: "},
         {{"--cgp=15/15/15/15/15/15/15/15/15/15/15/15/15/15/15"}, "a board needs a rack"},
