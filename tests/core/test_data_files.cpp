@@ -2,6 +2,7 @@
 // The data files: whole-file reading and writing, the tagged-line lookup,
 // Settings.txt, Sprachen.txt, the word list and the letter values.
 
+#include "data/file_contents.h"
 #include "data/file_helpers.h"
 #include "data/language_file.h"
 #include "data/large_array.h"
@@ -240,6 +241,30 @@ std::pair<long, std::size_t> memoryHeld() {
             mapped = std::stol(line.substr(7));
     }
     return {mapped, mallinfo2().uordblks};
+}
+
+TEST(ReplaceFile, SaysWhetherTheNewContentIsInPlace) {
+    TempFolder folder;
+    folder.write("out.txt", "old");
+    EXPECT_TRUE(replaceFile(u"neu", folder / "out.txt"));
+    EXPECT_EQ(folder.read("out.txt"), "neu");
+    EXPECT_FALSE(replaceFile(u"x", folder / "missing" / "a.txt"));
+    fs::create_directory(folder / "dir");
+    EXPECT_FALSE(replaceFile(u"x", folder / "dir"));
+    EXPECT_TRUE(fs::is_directory(folder / "dir"));
+    EXPECT_FALSE(fs::exists(folder / "dir.new"));
+}
+
+// A file that holds less than its size says, as the kernel's attribute files
+// do (and as a file shortened during the read would): what it holds, no wait.
+TEST(FileContents, FileShorterThanItsSizeReadsAsWhatItHolds) {
+    const fs::path online = "/sys/devices/system/cpu/online";
+    if (!fs::exists(online) || fs::file_size(online) <= 64)
+        GTEST_SKIP() << "no kernel attribute file to read";
+    const FileContents contents = readFileContents(online);
+    EXPECT_FALSE(contents.bytes().empty());
+    EXPECT_LT(contents.bytes().size(), fs::file_size(online));
+    EXPECT_TRUE(contents.bytes().ends_with('\n'));
 }
 
 TEST(LargeArray, GivesBackEveryByteItTakes) {

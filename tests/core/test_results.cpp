@@ -130,6 +130,10 @@ TEST(ColumnFill, AddsRowsForColumnZeroAndFillsOthersOnlyWhenCountsMatch) {
     list.setSubItem(4, 1, u"row 4");
     list.setSubItem(1, 5, u"column 5");
     EXPECT_EQ(cellRows(list), filled);
+    // Numbers into column 0 add rows too.
+    MemoryResultList numbers;
+    ListeSpalteFüllen(numbers, 0, std::vector<std::int64_t>{7, -1});
+    EXPECT_EQ(cellRows(numbers), (Rows{{u"7", u"", u"", u"", u""}, {u"-1", u"", u"", u"", u""}}));
 }
 
 // A list with room for two rows.
