@@ -55,21 +55,6 @@ Rack rackFrom(ByteSource& bytes) {
     return rack;
 }
 
-std::vector<Move> keptByFilter(const std::vector<Move>& moves, const MoveFilter& filter) {
-    std::vector<Move> kept;
-    for (const Move& move : moves) {
-        LetterMask laid = 0;
-        for (int i = 0; i < move.length; ++i) {
-            if (move.isLaid(i))
-                laid |= maskOf(letterOf(move.word[static_cast<std::size_t>(i)]));
-        }
-        if ((laid & filter.mandatory) == filter.mandatory && (laid & filter.forbidden) == 0 &&
-            move.score >= filter.minimumScore)
-            kept.push_back(move);
-    }
-    return kept;
-}
-
 void compare(const Board& board, const Rack& rack, ByteSource& bytes) {
     const SmallList& list = smallList();
     const std::vector<Move> fast = allMoves(board, rack, list.lexicon, list.values);
@@ -86,7 +71,7 @@ void compare(const Board& board, const Rack& rack, ByteSource& bytes) {
     filter.forbidden =
         bytes.next() % 3 == 0 ? maskOf(static_cast<Letter>(1 + bytes.next() % 29)) : 0;
     filter.minimumScore = bytes.next() % 2 == 0 ? static_cast<int>(bytes.next() % 40) : INT_MIN;
-    const std::vector<Move> kept = keptByFilter(fast, filter);
+    const std::vector<Move> kept = testing::keptByFilter(fast, filter);
     if (allMoves(board, rack, list.lexicon, list.values, filter) != kept)
         fuzz::fail("the filtered moves differ from the moves that pass the filter");
     const std::vector<Move> keptFirst(kept.begin(), kept.begin() + std::min(count, kept.size()));

@@ -132,4 +132,19 @@ std::string describe(const std::vector<Move>& moves, std::size_t most) {
     return text;
 }
 
+std::vector<Move> keptByFilter(const std::vector<Move>& moves, const MoveFilter& filter) {
+    std::vector<Move> kept;
+    for (const Move& move : moves) {
+        LetterMask laid = 0;
+        for (int i = 0; i < move.length; ++i) {
+            if (move.isLaid(i))
+                laid |= maskOf(letterOf(move.word[static_cast<std::size_t>(i)]));
+        }
+        if ((laid & filter.mandatory) == filter.mandatory && (laid & filter.forbidden) == 0 &&
+            move.score >= filter.minimumScore)
+            kept.push_back(move);
+    }
+    return kept;
+}
+
 } // namespace lettriner::board::testing

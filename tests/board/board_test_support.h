@@ -5,6 +5,7 @@
 
 #include "board/board.h"
 #include "board/move.h"
+#include "board/move_generator.h"
 #include "board/rack.h"
 #include "board/tile_values.h"
 #include "board/word_graph.h"
@@ -36,6 +37,12 @@ namespace lettriner::board::testing {
 [[nodiscard]] Rack rackOf(std::string_view text);
 // The board as the board file has it.
 [[nodiscard]] std::string boardText(const Board& board);
+
+// The moves a filter keeps, as the command line applies it: mandatory letters
+// laid, forbidden ones not (a blank counts as the letter it shows), a minimum
+// score. The slow twin of the generator's own filtering.
+[[nodiscard]] std::vector<Move> keptByFilter(const std::vector<Move>& moves,
+                                             const MoveFilter& filter);
 
 // A move as "8D GARTENS 70" (coordinate, word, score), for readable failures.
 [[nodiscard]] std::string describe(const Move& move);

@@ -193,23 +193,6 @@ TEST(MoveGenerator, NoMovesWithoutRackOrWords) {
     EXPECT_TRUE(bestMoves(Board{}, rackOf("HAUS"), lexicon, germanValues(), 0).empty());
 }
 
-// Filters as the command line applies them: mandatory letters laid, forbidden
-// ones not (a blank counts as the letter it shows), a minimum score.
-std::vector<Move> filtered(const std::vector<Move>& moves, const MoveFilter& filter) {
-    std::vector<Move> kept;
-    for (const Move& move : moves) {
-        LetterMask laid = 0;
-        for (int i = 0; i < move.length; ++i) {
-            if (move.isLaid(i))
-                laid |= maskOf(letterOf(move.word[static_cast<std::size_t>(i)]));
-        }
-        if ((laid & filter.mandatory) == filter.mandatory && (laid & filter.forbidden) == 0 &&
-            move.score >= filter.minimumScore)
-            kept.push_back(move);
-    }
-    return kept;
-}
-
 // Plays random games over the small list: at every turn a fresh rack, the
 // fast moves compared with the twin's, then one of them played. Also checks
 // best N and the filters against all moves.
@@ -244,7 +227,7 @@ void compareOnRandomGames(unsigned seed, int positions) {
         filter.mandatory = random() % 2 == 0 ? maskOf(lettersOf("E")[0]) : 0;
         filter.forbidden = random() % 2 == 0 ? maskOf(lettersOf("N")[0]) : 0;
         filter.minimumScore = static_cast<int>(random() % 15);
-        const std::vector<Move> kept = filtered(fast, filter);
+        const std::vector<Move> kept = testing::keptByFilter(fast, filter);
         ASSERT_EQ(allMoves(board, rack, lexicon, values, filter), kept) << "filter at " << position;
         best = bestMoves(board, rack, lexicon, values, count, filter);
         expected.assign(kept.begin(), kept.begin() + std::min(count, kept.size()));
