@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Where the line ends of a block of 64 bytes lie, for cutting a word list
-// into entries a block at a time: vector code where the machine has it, and
-// the plain loop that defines what it must give (and serves elsewhere).
+// into entries a block at a time, and how many line feeds a text holds, for
+// sizing the cut: vector code where the machine has it, and the plain loop
+// that defines what it must give (and serves elsewhere).
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 #if defined(__SSE2__)
 #include <emmintrin.h>
@@ -46,6 +50,38 @@ struct LineBytes {
     return masks;
 #else
     return lineBytesPlain(block);
+#endif
+}
+
+[[nodiscard]] inline std::size_t countLineFeedsPlain(std::string_view text) {
+    return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+}
+
+// std::count widens every byte's match to a 64-bit count, a dozen
+// instructions per 16 bytes; here each match subtracts one from a byte
+// counter, and the counters are summed before any can pass 255.
+[[nodiscard]] inline std::size_t countLineFeeds(std::string_view text) {
+#if defined(__SSE2__)
+    const char* bytes = text.data();
+    const std::size_t vectors = text.size() / 16;
+    const __m128i lf = _mm_set1_epi8('\n');
+    const __m128i zero = _mm_setzero_si128();
+    std::size_t count = 0;
+    for (std::size_t done = 0; done < vectors;) {
+        const std::size_t round = std::min<std::size_t>(vectors - done, 255);
+        __m128i counters = zero;
+        for (std::size_t k = 0; k < round; ++k, ++done) {
+            const __m128i chunk =
+                _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + 16 * done));
+            counters = _mm_sub_epi8(counters, _mm_cmpeq_epi8(chunk, lf));
+        }
+        const __m128i sums = _mm_sad_epu8(counters, zero);
+        count += static_cast<std::size_t>(_mm_cvtsi128_si32(sums)) +
+                 static_cast<std::size_t>(_mm_cvtsi128_si32(_mm_unpackhi_epi64(sums, sums)));
+    }
+    return count + countLineFeedsPlain(text.substr(16 * vectors));
+#else
+    return countLineFeedsPlain(text);
 #endif
 }
 

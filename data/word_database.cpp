@@ -76,7 +76,7 @@ LargeArray<std::uint32_t> startsOfEntries(std::string_view text, std::size_t& en
     if (text.empty())
         return LargeArray<std::uint32_t>(0);
     // Every line end holds a line feed: counting those is one vector pass.
-    const auto lineFeeds = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+    const std::size_t lineFeeds = countLineFeeds(text);
     LargeArray<std::uint32_t> starts(lineFeeds + 2 + 64);
     starts[0] = 0;
     const std::size_t lineEnds = cutAtLineEnds(text, starts.data());

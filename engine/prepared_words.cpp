@@ -21,8 +21,10 @@ namespace {
 struct ByteFacts {
     std::array<char16_t, 256> upper{};
     std::array<double, 256> value{};
-    std::array<std::int64_t, 256> wholeValue{};
     std::array<std::uint32_t, 256> letterBit{};
+    // The letter bit in the low half, the value as a whole number in the
+    // high half: one load per byte where whole values are summed.
+    std::array<std::uint64_t, 256> letterBitAndWholeValue{};
     std::array<std::int8_t, 256> alphabetIndex{};
 };
 
@@ -30,6 +32,10 @@ struct ByteFacts {
 // exact in a double.
 constexpr double kLargestExactValue = 1 << 20;
 constexpr std::size_t kLongestExactWord = std::size_t{1} << 32;
+// Whole values are stored with this added, so that they are never negative
+// and a plain unsigned sum of a word's bytes needs no sign extension per
+// byte; the word's sum takes it off again once.
+constexpr auto kValueBias = static_cast<std::int32_t>(kLargestExactValue);
 
 ByteFacts byteFacts(const CodePage& page, const LetterValueTable& values) {
     ByteFacts facts;
@@ -39,9 +45,12 @@ ByteFacts byteFacts(const CodePage& page, const LetterValueTable& values) {
         const int index = alphabetIndex(upper);
         facts.upper[b] = upper;
         facts.value[b] = values[windows1252Code(upper)];
-        facts.wholeValue[b] = static_cast<std::int64_t>(std::clamp(
-            facts.value[b], -kLargestExactValue, kLargestExactValue)); // used only when whole
         facts.letterBit[b] = index >= 0 ? 1u << index : kOtherBit;
+        const auto whole = static_cast<std::int32_t>(std::clamp(
+            facts.value[b], -kLargestExactValue, kLargestExactValue)); // used only when whole
+        facts.letterBitAndWholeValue[b] =
+            facts.letterBit[b] | std::uint64_t{static_cast<std::uint32_t>(whole + kValueBias)}
+                                     << 32;
         facts.alphabetIndex[b] = static_cast<std::int8_t>(index);
     }
     return facts;
@@ -88,21 +97,25 @@ void prepareRange(const WordDatabase& database, const ByteFacts& facts, bool who
                   std::size_t end) {
     for (std::size_t i = begin; i < end; ++i) {
         const std::string_view word = database.bytes(i);
-        std::uint32_t letters = 0;
         if (whole && word.size() < kLongestExactWord) {
-            std::int64_t wholeSum = 0;
+            std::uint64_t bits = 0;
+            std::uint64_t biasedSum = 0;
             for (const char byte : word) {
-                const auto b = static_cast<unsigned char>(byte);
-                letters |= facts.letterBit[b];
-                wholeSum += facts.wholeValue[b];
+                const std::uint64_t facts64 =
+                    facts.letterBitAndWholeValue[static_cast<unsigned char>(byte)];
+                bits |= facts64;
+                biasedSum += facts64 >> 32;
             }
-            letterSets[i] = letters;
+            const auto wholeSum = static_cast<std::int64_t>(biasedSum) -
+                                  static_cast<std::int64_t>(word.size()) * kValueBias;
+            letterSets[i] = static_cast<std::uint32_t>(bits);
             // A whole sum needs no rounding; outside 16 bits it cannot convert.
             values[i] = wholeSum >= INT16_MIN && wholeSum <= INT16_MAX
                             ? static_cast<std::int16_t>(wholeSum)
                             : std::int16_t{0};
             continue;
         }
+        std::uint32_t letters = 0;
         double sum = 0.0;
         for (const char byte : word) {
             const auto b = static_cast<unsigned char>(byte);

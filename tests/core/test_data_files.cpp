@@ -229,6 +229,15 @@ TEST(LineEnds, VectorCodeFindsWhatThePlainLoopFinds) {
             c = kinds[random() % std::size(kinds)];
         ASSERT_EQ(lineBytes(block.data()), lineBytesPlain(block.data())) << round;
     }
+    // Counted 16 bytes at a time in byte counters summed every 255 vectors:
+    // lengths around those steps, and texts of nothing but line feeds.
+    for (const std::size_t size : {0, 15, 16, 17, 4079, 4080, 4081, 4096, 8161, 20000}) {
+        std::string text(size, '\n');
+        ASSERT_EQ(countLineFeeds(text), size);
+        for (char& c : text)
+            c = kinds[random() % std::size(kinds)];
+        ASSERT_EQ(countLineFeeds(text), countLineFeedsPlain(text)) << size;
+    }
 }
 
 // What the program has mapped (kB) and what the allocator holds for it.

@@ -241,8 +241,8 @@ TEST(LetterTest, FastTestDecidesLikeTheLiteralOneOnRandomInput) {
 }
 
 // A list this long is prepared in two halves at once; every entry must come
-// out as the literal letter set and WortBewertung give it, with whole and
-// with fractional letter values.
+// out as the literal letter set and WortBewertung give it, with whole,
+// negative and fractional letter values.
 TEST(PreparedWords, LargeListEntriesAreTheLiteralLettersAndValue) {
     RandomTexts random(20261124);
     std::vector<std::u16string> list;
@@ -250,7 +250,11 @@ TEST(PreparedWords, LargeListEntriesAreTheLiteralLettersAndValue) {
         list.push_back(random.word(kRack));
     LetterValueTable fractional = oneEach();
     fractional.set(windows1252Code(u'T'), 1.5);
-    for (const LetterValueTable& values : {oneEach(), fractional}) {
+    // Whole but negative, and large enough to leave 16 bits in a long word.
+    LetterValueTable signedWhole = oneEach();
+    signedWhole.set(windows1252Code(u'E'), -7);
+    signedWhole.set(windows1252Code(u'Z'), 9000);
+    for (const LetterValueTable& values : {oneEach(), fractional, signedWhole}) {
         const PreparedWords words(WordDatabase(joinedLines(list)), values);
         ASSERT_EQ(words.size(), list.size());
         for (std::size_t i = 0; i < list.size(); ++i) {
