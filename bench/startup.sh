@@ -12,7 +12,7 @@
 # (/usr/bin/time -v), the window's "painted to data ready" time (median of
 # eleven fresh runs of lettriner-gui-bench), a board query as a whole process
 # (the lexicon file checked and read, the best 20 moves of a mid-game
-# position), and a list thirty times the shipped one.
+# position), and a list thirty times the shipped one (median of five runs).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source_root="$PWD"
@@ -64,6 +64,12 @@ big="$(mktemp -d)"
 trap 'rm -rf "$big"' EXIT
 cp Bewertung1.txt Bewertung2.txt "$big/"
 for _ in $(seq 30); do cat DB1.txt; done >"$big/DB1.txt"
-echo "== a list 30 times the shipped one ($(wc -l <"$big/DB1.txt") lines)"
-/usr/bin/time -f "   %e s wall, %U s user, %S s system, peak %M kB" \
-    "$run/lettriner-cli" -C "$big" >/dev/null
+# One run first, not counted: the first process to take this much memory
+# after the file was written pays for the kernel's first use of it (on a
+# virtual machine several times the rest), which is not the program's figure.
+"$run/lettriner-cli" -C "$big" >/dev/null
+echo "== a list 30 times the shipped one ($(wc -l <"$big/DB1.txt") lines), median of 5 runs by wall time"
+for _ in $(seq 5); do
+    /usr/bin/time -f "%e s wall, %U s user, %S s system, peak %M kB" \
+        "$run/lettriner-cli" -C "$big" 2>&1 >/dev/null
+done | sort -n | sed -n '3s/^/   /p'
