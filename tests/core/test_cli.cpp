@@ -55,6 +55,9 @@ TEST(ParseOptions, ReadsEveryFormOfEveryOptionAndRejectsTheRest) {
         {{"--blanks", "\x1b]0;x\a"}, "option --blanks takes 0, 1 or 2, not '\\x1b]0;x\\x07'"},
         {{"--starts=a\xF0\x9F\x98\x80"},
          "option --starts takes letters only, not '\xF0\x9F\x98\x80'"},
+        // The first and the last character of two code units.
+        {{"--ends=\xF0\x90\x80\x80"}, "option --ends takes letters only, not '\xF0\x90\x80\x80'"},
+        {{"--ends=\xF4\x8F\xBF\xBF"}, "option --ends takes letters only, not '\xF4\x8F\xBF\xBF'"},
         {{"--\xFF\r"}, "unknown option --\\xff\\x0d"},
         {{"--json", "--tsv"}, "options --tsv and --json exclude each other"},
         // The board search takes its own options and none of the word search's.
@@ -69,6 +72,7 @@ TEST(ParseOptions, ReadsEveryFormOfEveryOptionAndRejectsTheRest) {
         {{"--cgp=x", "--moves=5", "--all"}, "options --moves and --all exclude each other"}};
     for (const auto& [arguments, error] : bad)
         EXPECT_EQ(parseOptions(arguments).error, error);
+    EXPECT_EQ(parseOptions({"--cgp=x", "--moves=1"}).options.moves, 1u);
 }
 
 TEST(ParseOptions, TileOptionsAreUpperCasedAndCheckTakesTheFollowingWords) {

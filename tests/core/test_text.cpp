@@ -127,6 +127,7 @@ TEST(Utf8, DecodesAndReplacesMalformedInput) {
     EXPECT_EQ(toUtf8(u"a\xD800"
                      u"b\xDC00"),
               "a\xEF\xBF\275b\xEF\xBF\xBD");
+    EXPECT_EQ(toUtf8(u"a\xD800"), "a\xEF\xBF\xBD"); // nothing after it to pair with
 }
 
 } // namespace
