@@ -108,6 +108,30 @@ struct DataFolder {
     TempFolder folder;
 };
 
+// One key of a row's space-separated keys, sent to `target`: a named key,
+// "Shift+x" (a blank on the board), "Ctrl+X", or the text typed (upper case
+// without Shift is what Caps Lock sends).
+void sendKey(QWidget* target, const QString& key) {
+    static const QMap<QString, Qt::Key> named = {{"Backspace", Qt::Key_Backspace},
+                                                 {"Delete", Qt::Key_Delete},
+                                                 {"Left", Qt::Key_Left},
+                                                 {"Right", Qt::Key_Right},
+                                                 {"Up", Qt::Key_Up},
+                                                 {"Down", Qt::Key_Down},
+                                                 {"Space", Qt::Key_Space},
+                                                 {"Tab", Qt::Key_Tab},
+                                                 {"Enter", Qt::Key_Return},
+                                                 {"F2", Qt::Key_F2}};
+    if (named.contains(key))
+        QTest::sendKeyEvent(QTest::Click, target, named[key], key == "Space" ? " " : "", {});
+    else if (key.startsWith("Shift+"))
+        QTest::sendKeyEvent(QTest::Click, target, Qt::Key_unknown, key.mid(6), Qt::ShiftModifier);
+    else if (key.startsWith("Ctrl+"))
+        QTest::sendKeyEvent(QTest::Click, target, Qt::Key_X, "\x18", Qt::ControlModifier);
+    else
+        QTest::sendKeyEvent(QTest::Click, target, Qt::Key_unknown, key, {});
+}
+
 // A board window over the shipped list, shown, active and ready to search.
 struct OpenBoard {
     explicit OpenBoard(const QString& saved = {}) : data(saved) {
@@ -135,6 +159,31 @@ struct OpenBoard {
     void clickSquare(int row, int column) {
         const QPointF centre = view().geometryNow().squareRect(row, column).center();
         QTest::mouseClick(&view(), Qt::LeftButton, {}, centre.toPoint());
+    }
+    // Keys for the board as sendKey() takes them, and "Click:C3" on a square,
+    // "Menu:Entry" for the context menu key and its entry starting so.
+    void typeOnBoard(const QString& keys) {
+        for (const QString& key : keys.split(' ', Qt::SkipEmptyParts)) {
+            view().setFocus();
+            if (key.startsWith("Click:")) {
+                const QString square = key.mid(6);
+                clickSquare(square.mid(1).toInt() - 1, square[0].unicode() - u'A');
+            } else if (key.startsWith("Menu:")) {
+                const QString entry = key.mid(5);
+                QTimer::singleShot(0, &window, [entry] {
+                    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                    QVERIFY(menu != nullptr);
+                    for (QAction* action : menu->actions())
+                        if (action->text().startsWith(entry))
+                            action->trigger();
+                    menu->close();
+                });
+                QContextMenuEvent menu(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+                QApplication::sendEvent(&view(), &menu);
+            } else {
+                sendKey(&view(), key);
+            }
+        }
     }
     // Every tile typed: a click on each across run's first square, then its letters,
     // Shift held for a blank.
@@ -291,44 +340,7 @@ private Q_SLOTS:
         OpenBoard w;
         int edits = 0;
         connect(&w.view(), &BoardView::edited, this, [&edits] { ++edits; });
-        for (const QString& key : keys.split(' ')) {
-            if (key.startsWith("Click:")) {
-                const QString square = key.mid(6);
-                w.clickSquare(square.mid(1).toInt() - 1, square[0].unicode() - u'A');
-            } else if (key == "Space") {
-                w.key(&w.view(), Qt::Key_Space, {}, " ");
-            } else if (key == "Backspace" || key == "Delete" || key == "Left" || key == "Right" ||
-                       key == "Up" || key == "Down") {
-                const QMap<QString, Qt::Key> named = {{"Backspace", Qt::Key_Backspace},
-                                                      {"Delete", Qt::Key_Delete},
-                                                      {"Left", Qt::Key_Left},
-                                                      {"Right", Qt::Key_Right},
-                                                      {"Up", Qt::Key_Up},
-                                                      {"Down", Qt::Key_Down}};
-                w.key(&w.view(), named[key]);
-            } else if (key.startsWith("Menu:")) {
-                // The context menu key, then the entry starting with the given word.
-                const QString entry = key.mid(5);
-                QTimer::singleShot(0, this, [entry] {
-                    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-                    QVERIFY(menu != nullptr);
-                    for (QAction* action : menu->actions())
-                        if (action->text().startsWith(entry))
-                            action->trigger();
-                    menu->close();
-                });
-                w.view().setFocus();
-                QContextMenuEvent menu(QContextMenuEvent::Keyboard, QPoint(), QPoint());
-                QApplication::sendEvent(&w.view(), &menu);
-            } else if (key.startsWith("Shift+")) {
-                w.key(&w.view(), Qt::Key_unknown, Qt::ShiftModifier, key.mid(6));
-            } else if (key.startsWith("Ctrl+")) {
-                w.key(&w.view(), Qt::Key_X, Qt::ControlModifier, "\x18");
-            } else {
-                // Upper case without Shift is what Caps Lock sends.
-                w.key(&w.view(), Qt::Key_unknown, {}, key);
-            }
-        }
+        w.typeOnBoard(keys);
         QCOMPARE(tilesOf(w.view().board()), tiles);
         QCOMPARE(
             QString::fromStdString(b::squareName(w.view().cursor().row, w.view().cursor().column)),
@@ -677,18 +689,7 @@ private Q_SLOTS:
         QFETCH(QString, keys);
         QFETCH(QString, spoken);
         OpenBoard w;
-        for (const QString& key : keys.split(' ', Qt::SkipEmptyParts)) {
-            if (key.startsWith("Click:"))
-                w.clickSquare(key.mid(7).toInt() - 1, key[6].unicode() - u'A');
-            else if (key == "Left")
-                w.key(&w.view(), Qt::Key_Left);
-            else if (key == "Down")
-                w.key(&w.view(), Qt::Key_Down);
-            else if (key.startsWith("Shift+"))
-                w.key(&w.view(), Qt::Key_unknown, Qt::ShiftModifier, key.mid(6));
-            else
-                w.key(&w.view(), Qt::Key_unknown, {}, key);
-        }
+        w.typeOnBoard(keys);
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&w.view());
         QCOMPARE(accessible->text(QAccessible::Name), spoken);
     }
@@ -886,15 +887,7 @@ private Q_SLOTS:
             for (const QString& key : keys.split(' ')) {
                 QWidget* focused = QApplication::focusWidget();
                 QVERIFY(focused != nullptr);
-                const QMap<QString, Qt::Key> named = {
-                    {"F2", Qt::Key_F2},   {"Left", Qt::Key_Left},   {"Right", Qt::Key_Right},
-                    {"Up", Qt::Key_Up},   {"Down", Qt::Key_Down},   {"Space", Qt::Key_Space},
-                    {"Tab", Qt::Key_Tab}, {"Enter", Qt::Key_Return}};
-                if (named.contains(key))
-                    QTest::sendKeyEvent(QTest::Click, focused, named[key],
-                                        key == "Space" ? QString(" ") : QString(), {});
-                else
-                    QTest::sendKeyEvent(QTest::Click, focused, Qt::Key_unknown, key, {});
+                sendKey(focused, key);
             }
         };
         form.findChild<QWidget*>("txtBuchstaben")->setFocus();
