@@ -60,7 +60,6 @@ double readRadixInteger(Reader& reader, int radix) {
 // from_chars leaves its output untouched when the value is out of range, so
 // tell overflow from underflow by the decimal exponent of the first digit.
 double outOfRange(const std::string& mantissa, long exponent) {
-    long position = 0; // power of ten of the first significant digit
     bool seenPoint = false;
     bool seenSignificant = false;
     long integerDigits = 0;
@@ -80,7 +79,8 @@ double outOfRange(const std::string& mantissa, long exponent) {
     }
     if (!seenSignificant)
         return 0.0;
-    position = integerDigits > 0 ? integerDigits - 1 : -(leadingFractionZeros + 1);
+    // The power of ten of the first significant digit.
+    const long position = integerDigits > 0 ? integerDigits - 1 : -(leadingFractionZeros + 1);
     return position + exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;
 }
 

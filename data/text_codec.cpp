@@ -12,8 +12,8 @@ constexpr std::array<char16_t, 32> kHighControls = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-constexpr std::array<char16_t, 256> makeDecodeTable() {
-    std::array<char16_t, 256> table{};
+constexpr ByteTable<char16_t> makeDecodeTable() {
+    ByteTable<char16_t> table{};
     for (unsigned i = 0; i < 256; ++i)
         table[i] = static_cast<char16_t>(i);
     for (unsigned i = 0; i < 32; ++i)
@@ -21,7 +21,7 @@ constexpr std::array<char16_t, 256> makeDecodeTable() {
     return table;
 }
 
-constexpr std::array<char16_t, 256> kDecode = makeDecodeTable();
+constexpr ByteTable<char16_t> kDecode = makeDecodeTable();
 
 } // namespace
 
@@ -32,7 +32,7 @@ std::u16string decodeWindows1252(std::string_view bytes) {
     return text;
 }
 
-const std::array<char16_t, 256>& windows1252Characters() {
+const ByteTable<char16_t>& windows1252Characters() {
     return kDecode;
 }
 

@@ -88,7 +88,7 @@ LargeArray<std::uint32_t> startsOfEntries(std::string_view text, std::size_t& en
 // The bytes of a decoded text, and the code page that turns them back.
 std::pair<std::string, CodePage> encoded(std::u16string_view text) {
     CodePage page = windows1252Characters();
-    std::array<bool, 256> taken{};
+    ByteTable<bool> taken{};
     taken['\r'] = taken['\n'] = true; // the line ends keep their bytes
     for (const char16_t c : text) {
         const unsigned char code = windows1252Code(c);

@@ -7,8 +7,8 @@
 // when someone asks for it.
 
 #include "data/file_contents.h"
+#include "data/text_codec.h"
 
-#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -19,7 +19,7 @@
 namespace lettriner {
 
 // The character each byte of a list stands for.
-using CodePage = std::array<char16_t, 256>;
+using CodePage = ByteTable<char16_t>;
 
 // The file's bytes cut at every CR LF. A file ending in CR LF has one more
 // entry than words: the empty text after the last line end. An empty file

@@ -4,8 +4,8 @@
 // values line for line; a word is worth the sum of its letters.
 
 #include "data/file_contents.h"
+#include "data/text_codec.h"
 
-#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <string_view>
@@ -20,7 +20,7 @@ public:
     void set(unsigned char code, double value) { values_[code] = value; }
 
 private:
-    std::array<double, 256> values_{};
+    ByteTable<double> values_{};
 };
 
 // Builds the table from the two files' texts: for each non-empty line i of

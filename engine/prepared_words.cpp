@@ -19,13 +19,13 @@ namespace {
 // Per-byte facts of a list's code page: no casing outside the first 256
 // characters, and every character valued by its Windows-1252 code.
 struct ByteFacts {
-    std::array<char16_t, 256> upper{};
-    std::array<double, 256> value{};
-    std::array<std::uint32_t, 256> letterBit{};
+    ByteTable<char16_t> upper{};
+    ByteTable<double> value{};
+    ByteTable<std::uint32_t> letterBit{};
     // The letter bit in the low half, the value as a whole number in the
     // high half: one load per byte where whole values are summed.
-    std::array<std::uint64_t, 256> letterBitAndWholeValue{};
-    std::array<std::int8_t, 256> alphabetIndex{};
+    ByteTable<std::uint64_t> letterBitAndWholeValue{};
+    ByteTable<std::int8_t> alphabetIndex{};
 };
 
 // Above this, whole values no longer keep every partial sum of a long word

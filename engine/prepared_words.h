@@ -85,8 +85,8 @@ public:
 private:
     WordDatabase database_;
     LetterValueTable letterValues_;
-    std::array<char16_t, 256> upper_{};
-    std::array<std::int8_t, 256> alphabetIndex_{};
+    ByteTable<char16_t> upper_{};
+    ByteTable<std::int8_t> alphabetIndex_{};
     LargeArray<std::uint32_t> letters_;
     LargeArray<std::int16_t> wordValues_;
 };

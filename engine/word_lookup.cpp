@@ -27,10 +27,10 @@ std::vector<LookupResult> lookUpWords(const PreparedWords& words,
                                       const std::vector<std::u16string>& asked) {
     std::vector<LookupResult> results(asked.size());
     // Asked words by their exact and their SS form; a list word matching
-    // exactly wins over one that matches only as SS.
+    // exactly wins over one that matches only as SS (every exact match
+    // writes the same result: the asked word as it is).
     std::unordered_map<std::u16string, std::vector<std::size_t>> exact;
     std::unordered_map<std::u16string, std::vector<std::size_t>> folded;
-    std::vector<bool> foundExactly(asked.size(), false);
     for (std::size_t i = 0; i < asked.size(); ++i) {
         results[i].word = toUpper(asked[i]);
         exact[results[i].word].push_back(i);
@@ -39,11 +39,8 @@ std::vector<LookupResult> lookUpWords(const PreparedWords& words,
     for (std::size_t index = 0; index < words.size(); ++index) {
         const std::u16string upper = words.upper(index);
         if (const auto match = exact.find(upper); match != exact.end()) {
-            for (const std::size_t i : match->second) {
-                if (!foundExactly[i])
-                    results[i] = {true, upper, 0};
-                foundExactly[i] = true;
-            }
+            for (const std::size_t i : match->second)
+                results[i] = {true, upper, 0};
         }
         if (const auto match = folded.find(withSharpSAsSS(upper)); match != folded.end()) {
             for (const std::size_t i : match->second) {

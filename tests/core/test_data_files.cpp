@@ -220,6 +220,22 @@ TEST(DatenbankEinlesen, CutsLongFilesLikeThePlainSplit) {
     }
 }
 
+// A character Windows-1252 lacks takes a byte the text leaves free, down to
+// the last one (byte 0 here); with none left the list is empty.
+TEST(WordDatabase, CharactersOutsideTheCodePageTakeFreeBytesToTheLast) {
+    std::u16string everyOther;
+    for (unsigned b = 1; b < 256; ++b) {
+        if (b != '\r' && b != '\n')
+            everyOther += windows1252Characters()[b];
+    }
+    const std::u16string text = everyOther + u"\r\n\u4E00\r\n";
+    const WordDatabase list(text);
+    ASSERT_EQ(list.size(), 3u);
+    EXPECT_EQ(list[0], everyOther);
+    EXPECT_EQ(list[1], u"\u4E00");
+    EXPECT_TRUE(WordDatabase(text + u"\u4E01").empty());
+}
+
 TEST(LineEnds, VectorCodeFindsWhatThePlainLoopFinds) {
     std::mt19937 random(64);
     const char kinds[] = {'\r', '\n', 'a', '\0', '\xFF', '\x8D'};
