@@ -221,7 +221,7 @@ TEST(DatenbankEinlesen, CutsLongFilesLikeThePlainSplit) {
 }
 
 // A character Windows-1252 lacks takes a byte the text leaves free, down to
-// the last one (byte 0 here); with none left the list is empty.
+// the last one (byte 0 here), never CR or LF; with none left the list is empty.
 TEST(WordDatabase, CharactersOutsideTheCodePageTakeFreeBytesToTheLast) {
     std::u16string everyOther;
     for (unsigned b = 1; b < 256; ++b) {
@@ -234,6 +234,12 @@ TEST(WordDatabase, CharactersOutsideTheCodePageTakeFreeBytesToTheLast) {
     EXPECT_EQ(list[0], everyOther);
     EXPECT_EQ(list[1], u"\u4E00");
     EXPECT_TRUE(WordDatabase(text + u"\u4E01").empty());
+    // Without a line end in the text, CR and LF are still kept for themselves:
+    // the 11th and 14th such characters must not become a line end.
+    std::u16string fourteen;
+    for (char16_t c = u'\u4E00'; c < u'\u4E0E'; ++c)
+        fourteen += c;
+    EXPECT_EQ(WordDatabase(fourteen + u"\u4E0D\u4E0A").size(), 1u);
 }
 
 TEST(LineEnds, VectorCodeFindsWhatThePlainLoopFinds) {

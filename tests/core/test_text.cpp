@@ -128,6 +128,7 @@ TEST(Utf8, DecodesAndReplacesMalformedInput) {
                      u"b\xDC00"),
               "a\xEF\xBF\275b\xEF\xBF\xBD");
     EXPECT_EQ(toUtf8(u"a\xD800"), "a\xEF\xBF\xBD"); // nothing after it to pair with
+    EXPECT_EQ(toUtf8(u"\xDFFF"), "\xEF\xBF\xBD");   // the last low surrogate, alone
 }
 
 } // namespace
