@@ -6,7 +6,6 @@
 #include "data/number_format.h"
 #include "data/text_codec.h"
 
-#include <algorithm>
 #include <bit>
 #include <cstring>
 #include <new>
