@@ -3,6 +3,7 @@
 
 #include "board/move_text.h"
 #include "board/position_text.h"
+#include "data/utf8.h"
 
 #include <algorithm>
 #include <set>
@@ -25,16 +26,8 @@ TileValues germanValues() {
 
 LetterString lettersOf(std::string_view text) {
     LetterString letters;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        if (byte == 0xC3 && i + 1 < text.size()) {
-            // Ä Ö Ü and ä ö ü are two bytes in UTF-8, the second their code's low six bits.
-            const auto next = static_cast<unsigned char>(text[++i]);
-            letters.push_back(letterFromCharacter(0xC0u | (next & 0x3Fu)).letter);
-            continue;
-        }
-        letters.push_back(letterFromCharacter(byte).letter);
-    }
+    for (const char16_t character : fromUtf8(text))
+        letters.push_back(letterFromCharacter(character).letter);
     return letters;
 }
 
@@ -113,10 +106,6 @@ Board boardOf(const std::vector<std::string>& rows) {
 
 Rack rackOf(std::string_view text) {
     return readRack(text).rack;
-}
-
-std::string boardText(const Board& board) {
-    return writeBoardFile(board);
 }
 
 std::string describe(const Move& move) {

@@ -35,8 +35,6 @@ namespace lettriner::board::testing {
 // A board from 15 text rows as the board file has them.
 [[nodiscard]] Board boardOf(const std::vector<std::string>& rows);
 [[nodiscard]] Rack rackOf(std::string_view text);
-// The board as the board file has it.
-[[nodiscard]] std::string boardText(const Board& board);
 
 // The moves a filter keeps, as the command line applies it: mandatory letters
 // laid, forbidden ones not (a blank counts as the letter it shows), a minimum

@@ -212,8 +212,7 @@ void compareOnRandomGames(unsigned seed, int positions) {
         const std::vector<Move> fast = allMoves(board, rack, lexicon, values);
         const std::vector<Move> slow = testing::referenceMoves(board, rack, reference, values);
         ASSERT_EQ(fast, slow) << "position " << position << "\n"
-                              << testing::boardText(board) << "rack " << rackText(rack)
-                              << "\nfast:\n"
+                              << writeBoardFile(board) << "rack " << rackText(rack) << "\nfast:\n"
                               << describe(fast) << "slow:\n"
                               << describe(slow);
 
@@ -306,7 +305,7 @@ TEST(SlowComparison, EqualsTheTwinOnTheShippedList) {
         const Rack rack = rackOf(text);
         const std::vector<Move> fast = allMoves(board, rack, lexicon, values);
         const std::vector<Move> slow = testing::referenceMoves(board, rack, reference, values);
-        ASSERT_EQ(fast, slow) << testing::boardText(board) << "rack " << text << "\nfast:\n"
+        ASSERT_EQ(fast, slow) << writeBoardFile(board) << "rack " << text << "\nfast:\n"
                               << describe(fast) << "slow:\n"
                               << describe(slow);
         const std::vector<Move> best = bestMoves(board, rack, lexicon, values, 20);

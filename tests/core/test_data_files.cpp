@@ -14,11 +14,11 @@
 #include "data/word_database.h"
 #include "display/result_texts.h"
 #include "engine/letter_values.h"
+#include "support/address_space.h"
 #include "support/temp_folder.h"
 
 #include <array>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <malloc.h>
 #include <map>
@@ -262,18 +262,6 @@ TEST(LineEnds, VectorCodeFindsWhatThePlainLoopFinds) {
     }
 }
 
-// What the program has mapped (kB) and what the allocator holds for it.
-std::pair<long, std::size_t> memoryHeld() {
-    std::ifstream status("/proc/self/status");
-    std::string line;
-    long mapped = 0;
-    while (std::getline(status, line)) {
-        if (line.starts_with("VmSize:"))
-            mapped = std::stol(line.substr(7));
-    }
-    return {mapped, mallinfo2().uordblks};
-}
-
 TEST(ReplaceFile, SaysWhetherTheNewContentIsInPlace) {
     TempFolder folder;
     folder.write("out.txt", "old");
@@ -299,7 +287,11 @@ TEST(FileContents, FileShorterThanItsSizeReadsAsWhatItHolds) {
 }
 
 TEST(LargeArray, GivesBackEveryByteItTakes) {
-    const auto before = memoryHeld();
+    // What the program has mapped, and what the allocator holds for it.
+    const auto held = [] {
+        return std::pair{testing::addressSpaceInUse(), mallinfo2().uordblks};
+    };
+    const auto before = held();
     // From the allocator, a mapping of its own, huge-page aligned, with a tail.
     for (const std::size_t size : {std::size_t{10}, std::size_t{100} << 10, std::size_t{4} << 20,
                                    (std::size_t{5} << 20) + 1}) {
@@ -308,7 +300,7 @@ TEST(LargeArray, GivesBackEveryByteItTakes) {
             array[size - 1] = 'x';
         }
     }
-    EXPECT_EQ(memoryHeld(), before);
+    EXPECT_EQ(held(), before);
 }
 
 TEST(DatenbankEinlesen, YieldsOnceAfterReadingAndShowsTheGroupedCount) {
@@ -323,6 +315,9 @@ TEST(DatenbankEinlesen, YieldsOnceAfterReadingAndShowsTheGroupedCount) {
     });
     EXPECT_EQ(yields, 2);
     EXPECT_EQ(list.highestIndex(), 1);
+    // The list is the program's own copy: emptying the file changes nothing.
+    folder.write("DB1.txt", "");
+    EXPECT_EQ(list[0], u"alt");
     EXPECT_EQ(databaseCountText(1234, u'.'), u"gesamte Datenbank: \r\n1.234 Einträge");
     EXPECT_EQ(databaseCountText(0, u'.'), u"gesamte Datenbank: \r\n Einträge");
 }

@@ -14,7 +14,6 @@
 #include "support/address_space.h"
 #include "support/temp_folder.h"
 
-#include <chrono>
 #include <fcntl.h>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -134,10 +133,10 @@ TEST_F(HostileInput, EnormousFieldTextsAndEveryCharacterInEveryField) {
     EXPECT_EQ(search({u"AB", all, u"", all}, all).found, 0u);
 }
 
-// Starts lettriner-cli in the current folder, its address space capped at
-// what this test holds now plus `room` (a fresh program holds less, sanitizer
-// or not; no cap when 0), its output to out.txt and err.txt.
-pid_t startCli(std::uint64_t room, const std::vector<const char*>& arguments) {
+// Runs lettriner-cli in the current folder, its address space capped at what
+// this test holds now plus `room` (a fresh program holds less, sanitizer or
+// not), its output to out.txt and err.txt. The exit status, or -1 for a signal.
+int runCliWithin(std::uint64_t room, const std::vector<const char*>& arguments) {
     const int out = ::open("out.txt", O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
     const int err = ::open("err.txt", O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
     const pid_t child = ::fork();
@@ -147,24 +146,15 @@ pid_t startCli(std::uint64_t room, const std::vector<const char*>& arguments) {
             argv.push_back(const_cast<char*>(argument));
         argv.push_back(nullptr);
         if (out >= 0 && err >= 0 && ::dup2(out, STDOUT_FILENO) >= 0 &&
-            ::dup2(err, STDERR_FILENO) >= 0 && (room == 0 || testing::capAddressSpace(room)))
+            ::dup2(err, STDERR_FILENO) >= 0 && testing::capAddressSpace(room))
             ::execv(LETTRINER_CLI, argv.data());
         ::_exit(127);
     }
     ::close(out);
     ::close(err);
-    return child;
-}
-
-// The exit status, or -1 for a signal.
-int exitStatusOf(pid_t child) {
     int status = 0;
     ::waitpid(child, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
-int runCliWithin(std::uint64_t room, const std::vector<const char*>& arguments) {
-    return exitStatusOf(startCli(room, arguments));
 }
 
 TEST_F(HostileInput, MemoryShortAfterReadingIsReportedNotSearched) {
@@ -208,66 +198,6 @@ TEST_F(HostileInput, BonusListBeyondMemoryIsReported) {
     EXPECT_NE(
         folder.read("out.txt").find("\"found\": " + std::to_string(testing::kCappedListLines)),
         std::string::npos);
-}
-
-// The list changes on disk while the program runs: it goes on with what it
-// read. The file is truncated once the child has opened the list and closed
-// it again (or mapped it), while it still checks 90,000 words.
-TEST_F(HostileInput, WordListTruncatedWhileCheckingChangesNothing) {
-    std::string list;
-    std::vector<std::string> words;
-    for (int i = 0; i < 300'000; ++i) { // 90,000 of them checked
-        std::string word = "W";
-        for (int n = i; n > 0; n /= 26)
-            word += static_cast<char>('A' + n % 26);
-        list += word + "\r\n";
-        if (words.size() < 90'000)
-            words.push_back(std::move(word));
-    }
-    folder.write("DB1.txt", list);
-    std::vector<const char*> arguments = {"--tsv", "--check"};
-    for (const std::string& word : words)
-        arguments.push_back(word.c_str());
-    const pid_t child = startCli(0, arguments);
-    const std::string proc = "/proc/" + std::to_string(child);
-    // Whether the child holds the list: open, or (every 64th look, as that
-    // listing is long) mapped, whose descriptor may be closed while the
-    // mapping stays; truncating it then is what killed the program when it
-    // mapped the list.
-    const auto holdsList = [&proc](bool lookAtMappings) {
-        const auto names = [](const std::string& links) {
-            std::error_code error;
-            for (const auto& entry : fs::directory_iterator(links, error)) {
-                std::error_code unreadable;
-                if (fs::read_symlink(entry.path(), unreadable).filename() == "DB1.txt")
-                    return true;
-            }
-            return false;
-        };
-        return names(proc + "/fd") || (lookAtMappings && names(proc + "/map_files"));
-    };
-    // Truncated once the list was held and let go (read and closed), or after
-    // ten seconds of holding it (mapped for good).
-    bool seen = false;
-    const auto giveUp = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    for (unsigned look = 0; std::chrono::steady_clock::now() < giveUp; ++look) {
-        const bool holds = holdsList(look % 64 == 0);
-        if (seen && !holds)
-            break;
-        seen = seen || holds;
-        siginfo_t ended{};
-        if (!seen &&
-            ::waitid(P_PID, static_cast<id_t>(child), &ended, WEXITED | WNOHANG | WNOWAIT) == 0 &&
-            ended.si_pid == child)
-            break; // done before a look caught it: nothing left to truncate under it
-    }
-    ASSERT_EQ(::truncate("DB1.txt", 0), 0);
-    const int status = exitStatusOf(child);
-    EXPECT_NE(status, -1) << "ended by a signal";
-    if (seen) { // the list was read before the truncation
-        EXPECT_EQ(status, 0) << folder.read("err.txt");
-        EXPECT_NE(folder.read("out.txt").find("check\t90000\n"), std::string::npos);
-    }
 }
 
 } // namespace
